@@ -1,0 +1,29 @@
+# What every translation unit of ours is compiled and linked with.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_C_STANDARD 99)
+set(CMAKE_C_EXTENSIONS OFF)
+
+add_library(norv_options INTERFACE)
+target_compile_options(norv_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+# GCC 12 sees overlaps in std::string's own operators where there are none.
+target_compile_options(norv_options INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>)
+target_compile_definitions(norv_options INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX
+                           WINVER=0x0601 _WIN32_WINNT=0x0601)
+# No run-time library beside the binaries: they go into other makers' processes.
+target_link_options(norv_options INTERFACE -static)
+
+if(CMAKE_BUILD_TYPE STREQUAL "Debug")
+  target_compile_definitions(norv_options INTERFACE _GLIBCXX_ASSERTIONS)
+else()
+  target_link_options(norv_options INTERFACE -s)
+endif()
+
+# Debug sections of a sanitised build outgrow the plain object format.
+target_compile_options(norv_options INTERFACE -Wa,-mbig-obj)
+
+if(NORV_TRAP_UNDEFINED)
+  # The trap needs no run-time library, which MinGW-w64 doesn't have; vptr checks would need one.
+  target_compile_options(norv_options INTERFACE -fsanitize=undefined -fsanitize-undefined-trap-on-error -fno-sanitize=vptr)
+endif()

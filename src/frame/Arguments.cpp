@@ -1,0 +1,21 @@
+#include "frame/Arguments.h"
+
+#include <algorithm>
+
+namespace norvepa
+{
+
+Result CopyOut(std::wstring_view text, wchar_t* buffer, std::uint32_t* length) noexcept
+{
+    const std::uint32_t capacity = *length;
+    *length = static_cast<std::uint32_t>(text.size());
+    if (capacity <= text.size())
+    {
+        return PGSP_ERR_BUFFER_TOO_SHORT;
+    }
+
+    *std::copy(text.begin(), text.end(), buffer) = L'\0';
+    return PGSP_OK;
+}
+
+} // namespace norvepa

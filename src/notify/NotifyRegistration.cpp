@@ -1,0 +1,48 @@
+#include "notify/NotifyRegistration.h"
+
+#include "frame/Text.h"
+
+#include <cstdint>
+
+namespace norvepa
+{
+
+std::mutex notifyRegisterMutex;
+std::unique_ptr<NotifyRegisterList> notifyRegisterList;
+
+template <std::size_t Width>
+bool TextField<Width>::Matches(std::wstring_view text) const noexcept
+{
+    return EqualNoCase(view(), text, Width);
+}
+
+template class TextField<128>;
+template class TextField<256>;
+template class TextField<64>;
+
+bool NotifyRegistration::IsFor(std::wstring_view folderName, std::wstring_view fileName) const noexcept
+{
+    return FolderName.Matches(folderName) && (FileName.empty() || FileName.Matches(fileName));
+}
+
+void RemoveRegistration(const NotifyRegistration* registration)
+{
+    std::erase_if(*notifyRegisterList, [=](const auto& each) { return each.get() == registration; });
+    if (notifyRegisterList->empty())
+    {
+        notifyRegisterList.reset();
+    }
+}
+
+unsigned TraceAddress(const NotifyRegistration* registration) noexcept
+{
+    return static_cast<unsigned>(reinterpret_cast<std::uintptr_t>(registration));
+}
+
+void FreeNotifyRegistrations()
+{
+    const std::lock_guard lock(notifyRegisterMutex);
+    notifyRegisterList.reset();
+}
+
+} // namespace norvepa

@@ -1,0 +1,109 @@
+#include "store/DomWalk.h"
+
+#include "frame/Text.h"
+#include "store/Kinds.h"
+#include "store/norvxml.h"
+
+#include <windows.h>
+#include <objbase.h>
+
+namespace norvepa
+{
+
+Result CreateDocument(const TraceSource& source, Document& document)
+{
+    if (FAILED(document.Create()))
+    {
+        NORV_TRACE(source, TraceInfo, "ERROR : CreateInstance");
+        return PGSP_ERR_CANT_CREATE_XML_ENGINE;
+    }
+    return PGSP_OK;
+}
+
+ComForOneCall::~ComForOneCall()
+{
+    if (m_ours)
+    {
+        CoUninitialize();
+    }
+}
+
+Result ComForOneCall::CreateDocument(const TraceSource& source, Document& document)
+{
+    const HRESULT status = document.Create();
+    if (SUCCEEDED(status))
+    {
+        return PGSP_OK;
+    }
+    if (status == CO_E_NOTINITIALIZED)
+    {
+        m_ours = SUCCEEDED(CoInitialize(nullptr));
+        return norvepa::CreateDocument(source, document);
+    }
+    NORV_TRACE(source, TraceInfo, "ERROR : CreateInstance");
+    return PGSP_ERR_CANT_CREATE_XML_ENGINE;
+}
+
+Result LoadDocument(const TraceSource& source, const std::wstring& file, Document& document)
+{
+    if (const Result result = CheckFileSize(file); result != PGSP_OK)
+    {
+        return result;
+    }
+    if (!document.Load(file))
+    {
+        NORV_TRACE(source, TraceEntry, "<< Return PGSP_ERR_CANT_LOAD_XML_FILE (%s)",
+                   TraceToAnsi(file.c_str()));
+        return PGSP_ERR_CANT_LOAD_XML_FILE;
+    }
+    return PGSP_OK;
+}
+
+Node ValueOfEntry(const Node& entry, std::wstring_view parameter)
+{
+    bool matched = false;
+    for (const Node& child : entry.Children())
+    {
+        const Bstr name = child.Name();
+        if (matched && name.view() == L"Value")
+        {
+            return child;
+        }
+        matched = matched || (name.view() == L"Name" && EqualNoCase(child.Text().view(), parameter));
+    }
+    return {};
+}
+
+bool AppendEntry(const Document& document, const Node& parent, std::wstring_view element,
+                 std::wstring_view kind, std::wstring_view parameter, std::wstring_view value)
+{
+    const Node entry = NorvXMLCreateElement(element, kind, document);
+    if (!entry || !parent.Append(entry))
+    {
+        return false;
+    }
+    const Node name = NorvXMLCreateElement(L"Name", kind, document);
+    if (!name || !name.SetText(parameter) || !entry.Append(name))
+    {
+        return false;
+    }
+    const Node valueNode = NorvXMLCreateElement(L"Value", kind, document);
+    return valueNode && valueNode.SetText(value) && entry.Append(valueNode);
+}
+
+Result ReplaceValue(const Document& document, const std::wstring& file, const Node& valueNode,
+                    std::wstring_view value)
+{
+    if (EqualNoCase(valueNode.Text().view(), value))
+    {
+        return PGSP_ERR_SAME_VALUE;
+    }
+    if (!valueNode.SetText(value))
+    {
+        return PGSP_ERR_CANT_SET_VALUE;
+    }
+    static_cast<void>(document.Save(file));
+    return PGSP_OK;
+}
+
+} // namespace norvepa

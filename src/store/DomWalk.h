@@ -1,0 +1,55 @@
+#pragma once
+
+// What the store's operations on whole documents have in common: how a file is opened, how an entry is
+// found and made, and what becomes of a thread without COM.
+//
+// In these walks element names are compared exactly, names of parameters and values without regard to case.
+
+#include "trace/TraceStatement.h"
+#include "xml/Document.h"
+
+#include <string>
+#include <string_view>
+
+namespace norvepa
+{
+
+// PGSP_OK, or PGSP_ERR_CANT_CREATE_XML_ENGINE with its trace.
+[[nodiscard]] Result CreateDocument(const TraceSource& source, Document& document);
+
+// COM for a call that may come on a thread without it, and the document that needs it: when there is no
+// engine for want of COM, COM is initialised and the engine asked for once more. What was initialised ends
+// with the object, which has to outlive the document, unless it was told to stay.
+class ComForOneCall
+{
+public:
+    ComForOneCall() noexcept = default;
+    ComForOneCall(const ComForOneCall&) = delete;
+    ComForOneCall& operator=(const ComForOneCall&) = delete;
+    ~ComForOneCall();
+
+    [[nodiscard]] Result CreateDocument(const TraceSource& source, Document& document);
+
+    // Leaves the thread initialised, as the calls that fail to load their file do.
+    void Stay() noexcept { m_ours = false; }
+
+private:
+    bool m_ours = false;
+};
+
+// The size guard and the load: PGSP_ERR_FILE_NOT_FOUND, PGSP_ERR_CANT_LOAD_XML_FILE.
+[[nodiscard]] Result LoadDocument(const TraceSource& source, const std::wstring& file, Document& document);
+
+// The `Value` of an entry whose `Name`, ahead of it, is the parameter's; empty when it isn't this entry.
+[[nodiscard]] Node ValueOfEntry(const Node& entry, std::wstring_view parameter);
+
+// A new entry behind all that `parent` holds; its parts are of the same kind. False when the engine refuses.
+[[nodiscard]] bool AppendEntry(const Document& document, const Node& parent, std::wstring_view element,
+                               std::wstring_view kind, std::wstring_view parameter, std::wstring_view value);
+
+// Puts `value` into a `Value` and saves, unless it is there already: PGSP_OK, PGSP_ERR_SAME_VALUE, or
+// PGSP_ERR_CANT_SET_VALUE for a text that XML can't hold. Whether the file could be saved isn't looked at.
+[[nodiscard]] Result ReplaceValue(const Document& document, const std::wstring& file, const Node& valueNode,
+                                  std::wstring_view value);
+
+} // namespace norvepa

@@ -1,0 +1,64 @@
+#pragma once
+
+// A thing of the whole process that is made when it is first wanted and then stays until the process
+// ends: no destructor runs, so code that runs during the exit may still use it.
+//
+// Callers may rely on: Get() and Publish() never wait, from any thread; what Get() has answered stays
+// valid. When two threads publish at once one wins, and the loser's thing dies with its argument.
+// Callers must not: use it for what holds memory or handles in number; there is no way to let go.
+
+#include <atomic>
+#include <memory>
+#include <utility>
+
+namespace norvepa::win
+{
+
+template <typename Thing>
+class Lasting
+{
+public:
+    constexpr Lasting() noexcept = default;
+    Lasting(const Lasting&) = delete;
+    Lasting& operator=(const Lasting&) = delete;
+
+    // Null until something has been published.
+    [[nodiscard]] Thing* Get() noexcept
+    {
+        return m_state.load(std::memory_order_acquire) == State::Ready ? std::addressof(m_room.thing)
+                                                                       : nullptr;
+    }
+
+    void Publish(Thing&& thing) noexcept
+    {
+        State expected = State::Empty;
+        if (!m_state.compare_exchange_strong(expected, State::Filling, std::memory_order_acquire))
+        {
+            return;
+        }
+        std::construct_at(std::addressof(m_room.thing), std::move(thing));
+        m_state.store(State::Ready, std::memory_order_release);
+    }
+
+private:
+    enum class State
+    {
+        Empty,
+        Filling,
+        Ready
+    };
+
+    // A union's member is neither made nor destroyed unless someone says so.
+    union Room {
+        constexpr Room() noexcept : none() {}
+        ~Room() {}
+
+        char none;
+        Thing thing;
+    };
+
+    std::atomic<State> m_state{State::Empty};
+    Room m_room;
+};
+
+} // namespace norvepa::win

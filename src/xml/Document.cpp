@@ -1,0 +1,118 @@
+#include "xml/Document.h"
+
+#include "xml/Characters.h"
+
+#include <objbase.h>
+
+namespace norvepa
+{
+
+using Microsoft::WRL::ComPtr;
+
+namespace
+{
+
+// DOMDocument60 and the interface we hold it by, for which MinGW-w64 has no constants.
+constexpr CLSID DocumentClass = {
+    0x88d96a05, 0xf192, 0x11d4, {0xa6, 0x5f, 0x00, 0x40, 0x96, 0x32, 0x51, 0xe5}};
+constexpr IID DocumentInterface = {
+    0x2933bf95, 0x7b36, 0x11d2, {0xb2, 0x0e, 0x00, 0xc0, 0x4f, 0x98, 0x3e, 0x60}};
+
+VARIANT ElementType() noexcept
+{
+    VARIANT type = {};
+    type.vt = VT_I4;
+    type.lVal = NODE_ELEMENT;
+    return type;
+}
+
+} // namespace
+
+HRESULT Document::Create() noexcept
+{
+    m_document.Reset();
+    const HRESULT status = CoCreateInstance(DocumentClass, nullptr, CLSCTX_INPROC_SERVER, DocumentInterface,
+                                            reinterpret_cast<void**>(m_document.ReleaseAndGetAddressOf()));
+    if (SUCCEEDED(status))
+    {
+        m_document->put_async(VARIANT_FALSE);
+    }
+    return status;
+}
+
+void Document::LoadAsItStands() noexcept
+{
+    m_document->put_validateOnParse(VARIANT_FALSE);
+    m_document->put_resolveExternals(VARIANT_FALSE);
+    m_document->put_preserveWhiteSpace(VARIANT_TRUE);
+}
+
+bool Document::Load(const std::wstring& file)
+{
+    VARIANT_BOOL loaded = VARIANT_FALSE;
+    return SUCCEEDED(m_document->load(Bstr(file).asVariant(), &loaded)) && loaded == VARIANT_TRUE;
+}
+
+bool Document::Save(const std::wstring& file) const
+{
+    return SUCCEEDED(m_document->save(Bstr(file).asVariant()));
+}
+
+Node Document::Root() const
+{
+    ComPtr<IXMLDOMElement> root;
+    m_document->get_documentElement(&root);
+    return Node(std::move(root));
+}
+
+std::vector<Node> Document::Elements() const
+{
+    std::vector<Node> elements;
+    ComPtr<IXMLDOMElement> root;
+    ComPtr<IXMLDOMNodeList> list;
+    if (FAILED(m_document->get_documentElement(&root)) || !root ||
+        FAILED(root->getElementsByTagName(Bstr(L"*").get(), &list)))
+    {
+        return elements;
+    }
+
+    ComPtr<IXMLDOMNode> element;
+    while (list->nextNode(&element) == S_OK)
+    {
+        elements.emplace_back(std::move(element));
+    }
+    return elements;
+}
+
+Node Document::CreateElement(std::wstring_view name, std::wstring_view namespaceUri) const
+{
+    ComPtr<IXMLDOMNode> element;
+    if (!IsXmlName(name))
+    {
+        return {};
+    }
+    m_document->createNode(ElementType(), Bstr(name).get(), Bstr(namespaceUri).get(), &element);
+    return Node(std::move(element));
+}
+
+Node Document::CreateComment(std::wstring_view text) const
+{
+    ComPtr<IXMLDOMComment> comment;
+    m_document->createComment(Bstr(text).get(), &comment);
+    return Node(std::move(comment));
+}
+
+Node Document::CreateInstruction(std::wstring_view target, std::wstring_view text) const
+{
+    ComPtr<IXMLDOMProcessingInstruction> instruction;
+    m_document->createProcessingInstruction(Bstr(target).get(), Bstr(text).get(), &instruction);
+    return Node(std::move(instruction));
+}
+
+bool Document::Append(const Node& child) const
+{
+    ComPtr<IXMLDOMNode> appended;
+    return SUCCEEDED(m_document->appendChild(child.get(), &appended));
+}
+
+} // namespace norvepa

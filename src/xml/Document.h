@@ -1,0 +1,55 @@
+#pragma once
+
+// A document of the DOM engine: created empty, or loaded as a whole, walked, changed and saved.
+//
+// Callers may rely on: nothing is loaded asynchronously, and no DTD or schema location is followed to other
+// files. What the document doesn't change it saves: comments, processing instructions, other namespaces.
+// Callers must: have COM on their thread, and create the document before anything else is asked of it.
+
+#include "frame/Result.h"
+#include "xml/Node.h"
+
+#include <msxml2.h>
+#include <wrl/client.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvepa
+{
+
+class Document
+{
+public:
+    // S_OK, or why there is no engine: CO_E_NOTINITIALIZED on a thread without COM.
+    [[nodiscard]] HRESULT Create() noexcept;
+
+    // Accepts whatever is well-formed, follows nothing and keeps all white space: what a schema and a
+    // document to be validated need ahead of their load.
+    void LoadAsItStands() noexcept;
+
+    // True when the engine has read all of the file and found it well-formed.
+    [[nodiscard]] bool Load(const std::wstring& file);
+    [[nodiscard]] bool Save(const std::wstring& file) const;
+
+    [[nodiscard]] Node Root() const;
+
+    // All elements below the root, in document order. Taken at the time of the call.
+    [[nodiscard]] std::vector<Node> Elements() const;
+
+    // A new element that stands nowhere yet; with an empty `namespaceUri` it has no namespace. Empty for a
+    // name that isn't one.
+    [[nodiscard]] Node CreateElement(std::wstring_view name, std::wstring_view namespaceUri) const;
+
+    [[nodiscard]] Node CreateComment(std::wstring_view text) const;
+    [[nodiscard]] Node CreateInstruction(std::wstring_view target, std::wstring_view text) const;
+    [[nodiscard]] bool Append(const Node& child) const; // behind all that the document holds
+
+    [[nodiscard]] IXMLDOMDocument2* get() const noexcept { return m_document.Get(); }
+
+private:
+    Microsoft::WRL::ComPtr<IXMLDOMDocument2> m_document;
+};
+
+} // namespace norvepa

@@ -1,0 +1,107 @@
+#include "xml/Node.h"
+
+#include "xml/Characters.h"
+
+namespace norvepa
+{
+
+using Microsoft::WRL::ComPtr;
+
+namespace
+{
+
+// IXMLDOMElement, for which MinGW-w64 has no constant.
+constexpr IID ElementInterface = {
+    0x2933bf86, 0x7b36, 0x11d2, {0xb2, 0x0e, 0x00, 0xc0, 0x4f, 0x98, 0x3e, 0x60}};
+
+} // namespace
+
+Bstr Node::Name() const
+{
+    Bstr name;
+    m_node->get_nodeName(name.out());
+    return name;
+}
+
+bool Node::IsNamed(std::wstring_view name) const
+{
+    return Name().view() == name;
+}
+
+bool Node::IsElement() const
+{
+    DOMNodeType type = NODE_INVALID;
+    return SUCCEEDED(m_node->get_nodeType(&type)) && type == NODE_ELEMENT;
+}
+
+Bstr Node::Text() const
+{
+    Bstr text;
+    m_node->get_text(text.out());
+    return text;
+}
+
+bool Node::SetText(std::wstring_view text) const
+{
+    return IsXmlText(text) && SUCCEEDED(m_node->put_text(Bstr(text).get()));
+}
+
+NodeRange Node::Children() const
+{
+    return NodeRange(FirstChild());
+}
+
+Node Node::FirstChild() const
+{
+    ComPtr<IXMLDOMNode> child;
+    m_node->get_firstChild(&child);
+    return Node(std::move(child));
+}
+
+Node Node::NextSibling() const
+{
+    ComPtr<IXMLDOMNode> sibling;
+    m_node->get_nextSibling(&sibling);
+    return Node(std::move(sibling));
+}
+
+Node Node::Parent() const
+{
+    ComPtr<IXMLDOMNode> parent;
+    m_node->get_parentNode(&parent);
+    return Node(std::move(parent));
+}
+
+Node Node::Attribute(std::wstring_view name) const
+{
+    ComPtr<IXMLDOMNamedNodeMap> attributes;
+    ComPtr<IXMLDOMNode> attribute;
+    if (SUCCEEDED(m_node->get_attributes(&attributes)) && attributes)
+    {
+        attributes->getNamedItem(Bstr(name).get(), &attribute);
+    }
+    return Node(std::move(attribute));
+}
+
+bool Node::SetAttribute(std::wstring_view name, std::wstring_view value) const
+{
+    ComPtr<IXMLDOMElement> element;
+    const Bstr text(value);
+    return SUCCEEDED(
+               m_node->QueryInterface(ElementInterface, reinterpret_cast<void**>(element.GetAddressOf()))) &&
+           SUCCEEDED(element->setAttribute(Bstr(name).get(), text.asVariant()));
+}
+
+bool Node::Append(const Node& child) const
+{
+    ComPtr<IXMLDOMNode> appended;
+    return SUCCEEDED(m_node->appendChild(child.get(), &appended));
+}
+
+bool Node::Remove(const Node& child) const
+{
+    ComPtr<IXMLDOMNode> removed;
+    return SUCCEEDED(m_node->removeChild(child.get(), &removed));
+}
+
+} // namespace norvepa

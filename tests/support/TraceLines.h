@@ -1,0 +1,33 @@
+#pragma once
+
+// Trace lines as they end up in files, seen from outside of the trace client: settings go into the
+// redirected registry, and the library reads them when it is loaded.
+
+#include "support/TemporaryFolder.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvepa::test
+{
+
+class TraceLines
+{
+public:
+    // Switches the levels of this mask on, with output to files. The registry has to be redirected already.
+    explicit TraceLines(const std::wstring& level, const std::wstring& format = L"TEXT");
+
+    // All lines written so far, without their line feeds; none when there is no file.
+    [[nodiscard]] std::vector<std::string> read() const;
+
+private:
+    TemporaryFolder m_folder;
+};
+
+inline const std::wstring AllTraceLevels = L"0xFFFFFFFF";
+
+// A line of the format "TEXT": tag and message, a blank behind each. Tags end in a blank of their own.
+[[nodiscard]] std::string TraceLine(std::string_view tag, std::string_view message);
+
+} // namespace norvepa::test

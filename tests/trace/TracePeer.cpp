@@ -1,0 +1,121 @@
+#include "TracePeer.h"
+
+#include <filesystem>
+#include <stdexcept>
+#include <utility>
+
+namespace norvepa::test
+{
+
+namespace
+{
+
+constexpr DWORD Patience = 60'000; // milliseconds
+
+std::wstring ProgramPath()
+{
+    std::wstring path(1024, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return std::filesystem::path(path).replace_filename(L"trace_peer.exe").wstring();
+}
+
+// The end of a pipe that the peer gets, and the one that stays here.
+std::pair<HANDLE, HANDLE> MakePipe(bool peerReads)
+{
+    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+    HANDLE read = nullptr;
+    HANDLE write = nullptr;
+    if (CreatePipe(&read, &write, &inherited, 0) == 0)
+    {
+        throw std::runtime_error("CreatePipe failed");
+    }
+    const auto [theirs, ours] = peerReads ? std::pair(read, write) : std::pair(write, read);
+    SetHandleInformation(ours, HANDLE_FLAG_INHERIT, 0);
+    return {theirs, ours};
+}
+
+} // namespace
+
+TracePeer::TracePeer(const RedirectedRegistry& registry)
+{
+    const auto [peerInput, input] = MakePipe(true);
+    const auto [peerOutput, output] = MakePipe(false);
+    m_input = input;
+    m_output = output;
+
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESTDHANDLES;
+    startup.hStdInput = peerInput;
+    startup.hStdOutput = peerOutput;
+    startup.hStdError = GetStdHandle(STD_ERROR_HANDLE);
+    PROCESS_INFORMATION process{};
+    std::wstring commandLine = L"\"" + ProgramPath() + L"\"";
+
+    SetEnvironmentVariableW(L"NORV_TEST_MACHINE_KEY", registry.name().c_str());
+    const BOOL started = CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr,
+                                        nullptr, &startup, &process);
+    SetEnvironmentVariableW(L"NORV_TEST_MACHINE_KEY", nullptr);
+    CloseHandle(peerInput);
+    CloseHandle(peerOutput);
+    if (started == FALSE)
+    {
+        throw std::runtime_error("trace_peer.exe can't be started: " + std::to_string(GetLastError()));
+    }
+    CloseHandle(process.hThread);
+    m_process = process.hProcess;
+}
+
+TracePeer::~TracePeer()
+{
+    CloseHandle(m_input);
+    if (WaitForSingleObject(m_process, Patience) != WAIT_OBJECT_0)
+    {
+        Kill();
+    }
+    CloseHandle(m_process);
+    CloseHandle(m_output);
+}
+
+std::string TracePeer::Ask(const std::string& command)
+{
+    Send(command);
+    return Answer();
+}
+
+void TracePeer::Send(const std::string& command)
+{
+    const std::string line = command + "\n";
+    DWORD written = 0;
+    if (WriteFile(m_input, line.data(), static_cast<DWORD>(line.size()), &written, nullptr) == 0)
+    {
+        throw std::runtime_error("trace_peer.exe doesn't listen");
+    }
+}
+
+std::string TracePeer::Answer()
+{
+    std::string answer;
+    char character = '\0';
+    DWORD read = 0;
+    while (ReadFile(m_output, &character, 1, &read, nullptr) != 0 && read == 1)
+    {
+        if (character == '\n')
+        {
+            return answer;
+        }
+        if (character != '\r')
+        {
+            answer += character;
+        }
+    }
+    throw std::runtime_error("trace_peer.exe doesn't answer");
+}
+
+void TracePeer::Kill()
+{
+    TerminateProcess(m_process, 1);
+    WaitForSingleObject(m_process, Patience);
+}
+
+} // namespace norvepa::test

@@ -1,0 +1,42 @@
+#include "Text.h"
+
+#include <windows.h>
+#include <shellapi.h>
+
+#include <memory>
+
+namespace norvctl
+{
+
+std::string ToUtf8(std::wstring_view text)
+{
+    const int length = static_cast<int>(text.size());
+    const int size = WideCharToMultiByte(CP_UTF8, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
+    std::string utf8(static_cast<std::size_t>(size), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text.data(), length, utf8.data(), size, nullptr, nullptr);
+    return utf8;
+}
+
+std::wstring ToWide(std::string_view utf8)
+{
+    const int length = static_cast<int>(utf8.size());
+    const int size = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, nullptr, 0);
+    std::wstring text(static_cast<std::size_t>(size), L'\0');
+    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, text.data(), size);
+    return text;
+}
+
+std::vector<std::string> CommandLineReversed()
+{
+    int count = 0;
+    const std::unique_ptr<wchar_t*, decltype(&LocalFree)> arguments(
+        CommandLineToArgvW(GetCommandLineW(), &count), &LocalFree);
+    std::vector<std::string> reversed;
+    for (int i = count - 1; i > 0; --i)
+    {
+        reversed.push_back(ToUtf8(arguments.get()[i]));
+    }
+    return reversed;
+}
+
+} // namespace norvctl

@@ -1,0 +1,43 @@
+// norvctl: the configuration store from the command line. A client of the library's exports.
+
+#include "Commands.h"
+#include "Report.h"
+#include "Text.h"
+
+#include <windows.h>
+#include <iostream>
+
+#include <CLI/CLI.hpp>
+#include <exception>
+
+int main()
+{
+    SetConsoleOutputCP(CP_UTF8);
+
+    CLI::App app("norvctl: the configuration store of the industrial communication stack", "norvctl");
+    app.require_subcommand(1);
+
+    norvctl::Report report;
+    app.add_flag("--json", report.json, "answer with one JSON document");
+    app.fallthrough();
+
+    norvctl::AddNameCommands(app, report);
+    norvctl::AddWatchCommand(app, report);
+    norvctl::AddTraceCommands(app, report);
+    norvctl::AddVersionCommand(app, report);
+
+    try
+    {
+        app.parse(norvctl::CommandLineReversed());
+        return 0;
+    }
+    catch (const CLI::ParseError& error)
+    {
+        return app.exit(error) == 0 ? 0 : 1;
+    }
+    catch (const std::exception& error)
+    {
+        std::cerr << "norvctl: " << error.what() << '\n';
+        return 1;
+    }
+}
