@@ -2,6 +2,7 @@
 
 #include "trace/TraceRecord.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cstring>
 #include <limits>
