@@ -1,104 +1,93 @@
-// What a trace statement costs: switched off, beside a loop without it; and switched on, into a file.
+// What a trace statement costs: switched off, beside an empty loop and a function call, and switched on into
+// a file. Ends with 1 when a statement that is switched off has evaluated an argument.
 
-#include "trace/TraceStatement.h"
-
+#include "PlainCall.h"
 #include "Stopwatch.h"
+#include "support/RedirectedRegistry.h"
+#include "support/StoreRoots.h"
+#include "support/TemporaryFolder.h"
 #include "trace/Norvotrc.h"
 
-#include <windows.h>
-
-#include <atomic>
-#include <fmt/format.h>
-#include <string>
+#include <cstdio>
 
 namespace
 {
 
 using namespace norvepa;
+using namespace norvepa::bench;
 
-constexpr TraceSource source{"TraceStatementBench: ", " BL"};
-constexpr wchar_t TraceKey[] = L"Software\\MARVOLT\\DRAVIK\\TrcParams";
-constexpr unsigned StepsOff = 20'000'000;
-constexpr unsigned StepsOn = 2'000;
+constexpr TraceSource source{"LogNameGetValueBL: ", " BL"};
+constexpr char format[] = ">> LogName = %s, Parameter = %s";
+const wchar_t* volatile logName = L"Kessel#1";
+const wchar_t* volatile parameter = L"LogDevice";
 
-std::atomic<unsigned> work{0}; // keeps the compiler from leaving the loops out
-unsigned evaluations = 0;
+std::uint64_t evaluations = 0;
 
-int Evaluate(int value)
+const char* Counted(const char* text) noexcept
 {
     ++evaluations;
-    return value;
+    return text;
 }
 
-void Plain(unsigned step)
+void Nothing() noexcept {}
+
+void Statement() noexcept
 {
-    work.store(step, std::memory_order_relaxed);
+    NORV_TRACE(source, TraceEntry, format, Counted(TraceToAnsi(logName)), Counted(TraceToAnsi(parameter)));
 }
 
-void Traced(unsigned step)
+void CallWithArgumentsAsTheyAre() noexcept
 {
-    NORV_TRACE(source, TraceInfo, "step %d of %s", Evaluate(static_cast<int>(step)),
-               TraceToAnsi(L"the loop"));
-    work.store(step, std::memory_order_relaxed);
+    PlainCall(source, TraceEntry, __FILE__, __LINE__, format, logName, parameter);
 }
 
-// This process's own HKEY_LOCAL_MACHINE: the machine's trace settings stay out of it.
-class OwnRegistry
+void CallWithArgumentsEvaluated() noexcept
 {
-public:
-    OwnRegistry()
-    {
-        HKEY key = nullptr;
-        RegCreateKeyExW(HKEY_CURRENT_USER, Name, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS, nullptr,
-                        &key, nullptr);
-        RegOverridePredefKey(HKEY_LOCAL_MACHINE, key);
-        RegCloseKey(key);
-    }
-    ~OwnRegistry()
-    {
-        RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr);
-        RegDeleteTreeW(HKEY_CURRENT_USER, Name);
-    }
+    PlainCall(source, TraceEntry, __FILE__, __LINE__, format, TraceToAnsi(logName), TraceToAnsi(parameter));
+}
 
-    void Set(const wchar_t* name, const std::wstring& text) const
-    {
-        RegSetKeyValueW(HKEY_LOCAL_MACHINE, TraceKey, name, REG_SZ, text.c_str(),
-                        static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
-    }
-
-private:
-    static constexpr wchar_t Name[] = L"Software\\NorvepaBl64x.Bench";
-};
-
-std::wstring TemporaryFolder()
+// Goes by what stands in the redirected registry.
+void ReadSettings()
 {
-    wchar_t folder[MAX_PATH] = L"";
-    GetTempPathW(MAX_PATH, folder);
-    std::wstring path(folder);
-    path.pop_back();
-    return path;
+    TraceInit(nullptr, "norvepaBl64x");
+}
+
+void SwitchOn(const test::TemporaryFolder& folder)
+{
+    test::SetMachineText(test::TraceKey, L"Level", L"0xD8");
+    test::SetMachineText(test::TraceKey, L"Path", folder.path());
+    ReadSettings();
+}
+
+void Print(const char* what, double nanoseconds, double off)
+{
+    std::printf("%-46s %12.2f ns %12.2f\n", what, nanoseconds, nanoseconds / off);
 }
 
 } // namespace
 
 int main()
 {
-    const OwnRegistry registry;
-    TraceInit(nullptr, "norvepaBl64x");
-    const double plain = bench::TimeOf(StepsOff, &Plain);
-    const double off = bench::TimeOf(StepsOff, &Traced);
-    const unsigned evaluatedOff = evaluations;
+    const test::RedirectedRegistry registry;
+    const test::TemporaryFolder folder;
 
-    registry.Set(L"Level", L"64");
-    registry.Set(L"Path", TemporaryFolder());
-    registry.Set(L"FileName", L"NorvBench");
-    TraceInit(nullptr, "norvepaBl64x");
-    const double on = bench::TimeOf(StepsOn, &Traced);
+    ReadSettings();
+    const double nothing = MedianNanoseconds([] { Nothing(); });
+    const double off = MedianNanoseconds([] { Statement(); });
+    const std::uint64_t evaluationsWhileOff = evaluations;
+    const double call = MedianNanoseconds([] { CallWithArgumentsAsTheyAre(); });
+    const double callEvaluated = MedianNanoseconds([] { CallWithArgumentsEvaluated(); });
+    SwitchOn(folder);
+    const double on = MedianNanoseconds([] { Statement(); });
 
-    fmt::print("trace statement\n");
-    fmt::print("  loop without it          {:10.2f} ns\n", plain);
-    fmt::print("  switched off             {:10.2f} ns   {:.2f} ns more, {} arguments evaluated\n", off,
-               off - plain, evaluatedOff);
-    fmt::print("  switched on, into a file {:10.0f} ns   {:.0f} times as much as off\n", on, on / off);
-    return evaluatedOff == 0 ? 0 : 1;
+    std::printf("%-46s %15s %12s\n", "trace statement with two converted names", "median", "to \"off\"");
+    Print("empty loop", nothing, off);
+    Print("statement, switched off", off, off);
+    Print("function call, arguments as they are", call, off);
+    Print("function call, arguments evaluated", callEvaluated, off);
+    Print("statement, switched on, into a file", on, off);
+    std::printf("arguments evaluated: %llu while off, %llu while on\n",
+                static_cast<unsigned long long>(evaluationsWhileOff),
+                static_cast<unsigned long long>(evaluations - evaluationsWhileOff));
+    return evaluationsWhileOff == 0 ? 0 : 1;
 }

@@ -43,7 +43,19 @@ Bstr Node::Text() const
 
 bool Node::SetText(std::wstring_view text) const
 {
-    return IsXmlText(text) && SUCCEEDED(m_node->put_text(Bstr(text).get()));
+    if (!IsXmlText(text))
+    {
+        return false;
+    }
+    // Taken out first: not every engine keeps a child that somebody still holds when a text replaces it.
+    while (const Node child = FirstChild())
+    {
+        if (!Remove(child))
+        {
+            return false;
+        }
+    }
+    return SUCCEEDED(m_node->put_text(Bstr(text).get()));
 }
 
 NodeRange Node::Children() const

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <atomic>
 #include <filesystem>
+#include <list>
 #include <mutex>
 #include <thread>
 
@@ -43,7 +44,7 @@ protected:
     {
         const ULONGLONG end = GetTickCount64() + LoadTime;
         std::vector<std::atomic<int>> rounds(sizeof...(actions));
-        std::vector<std::thread> threads;
+        std::list<std::thread> threads; // a vector of them, GCC 12 takes for out of bounds
         const auto start = [&](const auto& action) {
             threads.emplace_back([&, place = threads.size()] {
                 while (GetTickCount64() < end)
@@ -84,7 +85,7 @@ TEST_F(WatchUnderLoad, ListsWhatIsThereOnceTwoProcessesHaveStoppedChangingIt)
     Peer second(L"notify_peer.exe", roots.registry());
     MakeFile(logDevices(), L"Pumpe.xml");
     std::atomic<bool> quiet = false;
-    std::vector<std::thread> threads;
+    std::list<std::thread> threads; // a vector of them, GCC 12 takes for out of bounds
     for (int i = 0; i < 3; ++i)
     {
         threads.emplace_back([&] {

@@ -54,6 +54,13 @@ TEST_P(ReadBrokenFile, NothingIsFoundInWhatIsNoXml)
     EXPECT_EQ(OutcomeOf(std::string(1'000, '\0')), GetParam().notFound);
 }
 
+// There an engine may supply the end tags that are missing, and nobody sees that the file was cut off.
+bool EndsBehindATag(std::string_view bytes)
+{
+    const std::size_t last = bytes.find_last_not_of("\r\n");
+    return last != std::string_view::npos && bytes[last] == '>';
+}
+
 TEST_P(ReadBrokenFile, AFileCutOffAnywhereIsReadUpToThere)
 {
     const std::string whole = LogDeviceFile(ReadableContent());
@@ -61,15 +68,16 @@ TEST_P(ReadBrokenFile, AFileCutOffAnywhereIsReadUpToThere)
     // Not within or right behind the declaration: there an engine may end the whole process.
     for (std::size_t length = XmlDeclaration.size() + 1; length < whole.size(); ++length)
     {
-        const Outcome outcome = OutcomeOf(std::string_view(whole).substr(0, length));
+        const std::string_view part = std::string_view(whole).substr(0, length);
+        const Outcome outcome = OutcomeOf(part);
 
-        if (outcome.result == PGSP_OK)
+        if (outcome.result != PGSP_OK)
         {
-            ASSERT_EQ(outcome, GetParam().found) << "cut off after " << whole.substr(0, length);
+            ASSERT_EQ(outcome.result, PGSP_ERR_PARAM_NOT_FOUND) << "cut off after " << part;
         }
-        else
+        else if (!EndsBehindATag(part))
         {
-            ASSERT_EQ(outcome.result, PGSP_ERR_PARAM_NOT_FOUND);
+            ASSERT_EQ(outcome, GetParam().found) << "cut off after " << part;
         }
     }
 }

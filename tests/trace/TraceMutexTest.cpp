@@ -2,15 +2,13 @@
 
 #include "TracePeer.h"
 #include "TraceScene.h"
-#include "support/DebuggerStrings.h"
 #include "trace/TraceStatement.h"
 #include "win/Handle.h"
 
 #include <windows.h>
-#include <aclapi.h>
-#include <sddl.h>
 
 #include <chrono>
+#include <functional>
 #include <future>
 #include <gmock/gmock.h>
 #include <string>

@@ -1,12 +1,10 @@
 #include "trace/TraceRing.h"
 
-#include "TracePeer.h"
-#include "TraceScene.h"
+#include "RingViewer.h"
 
 #include <windows.h>
 
-#include <cstring>
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <string>
 
 namespace norvepa
@@ -15,54 +13,7 @@ namespace norvepa
 namespace
 {
 
-using test::TracePeer;
-using test::TraceScene;
-
-// The ring as a viewer maps it: the bytes, whatever they are meant to be.
-class Viewer
-{
-public:
-    // Makes the mapping if it isn't there.
-    explicit Viewer(std::uint32_t bytes)
-        : m_mapping(CreateFileMappingA(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, bytes,
-                                       "Global\\NorvSDD_Trace")),
-          m_view(m_mapping, FILE_MAP_WRITE, 0)
-    {
-        if (!m_view)
-        {
-            throw std::runtime_error("the ring can't be mapped");
-        }
-    }
-
-    Viewer() : Viewer(4096) {}
-
-    [[nodiscard]] std::uint32_t Word(std::size_t offset) const
-    {
-        std::uint32_t word = 0;
-        std::memcpy(&word, bytes() + offset, sizeof word);
-        return word;
-    }
-    void SetWord(std::size_t offset, std::uint32_t word)
-    {
-        std::memcpy(bytes() + offset, &word, sizeof word);
-    }
-    void SetByte(std::size_t offset, char byte) { bytes()[offset] = byte; }
-    [[nodiscard]] std::string Data(std::size_t count) const { return std::string(bytes() + 64, count); }
-
-    void FillHeader(std::uint32_t ringBytes)
-    {
-        SetWord(4, ringBytes);
-        SetWord(12, 1);
-        SetWord(16, 1);
-        SetWord(20, 1);
-    }
-
-private:
-    [[nodiscard]] char* bytes() const { return static_cast<char*>(m_view.get()); }
-
-    win::Handle m_mapping;
-    win::MappedView m_view;
-};
+using Viewer = test::RingViewer;
 
 TEST(TraceRing, NewRingHasItsHeader)
 {
@@ -255,62 +206,6 @@ TEST(TraceRing, NameThatBelongsToAnotherKindOfObjectLeavesNoRing)
     ASSERT_TRUE(event);
 
     EXPECT_FALSE(TraceRing::Attach(1000, nullptr));
-}
-
-TEST(TraceRingBetweenProcesses, TwoProcessesWriteOneRing)
-{
-    TraceScene scene;
-    TraceScene::Set(L"Output", L"SM");
-    TraceScene::Set(L"sm_size", L"500");
-    TraceScene::Set(L"Level", L"8");
-    TraceScene::Set(L"Format", L"TEXT");
-    TracePeer first(scene.registry());
-    TracePeer second(scene.registry());
-
-    first.Ask("init");
-    second.Ask("init");
-    first.Ask("trace 8 one");
-    second.Ask("trace 8 two");
-    first.Ask("trace 8 three");
-
-    const Viewer viewer;
-    const std::string expected = "Peer:  one \r\nPeer:  two \r\nPeer:  three \r\n";
-    EXPECT_EQ(viewer.Data(expected.size()), expected);
-    EXPECT_EQ(viewer.Word(4), 500u);
-    EXPECT_EQ(viewer.Word(16), 2u);
-}
-
-TEST(TraceRingBetweenProcesses, ReadingTheSettingsAnewDoesNotAttachASecondTime)
-{
-    TraceScene scene;
-    TraceScene::Set(L"Output", L"SM");
-    TraceScene::Set(L"Level", L"8");
-    TraceScene::Set(L"Format", L"TEXT");
-    TracePeer peer(scene.registry());
-
-    peer.Ask("init");
-    TraceScene::Set(L"sm_size", L"500");
-    peer.Ask("init");
-    peer.Ask("trace 8 line");
-
-    const Viewer viewer;
-    EXPECT_EQ(viewer.Word(16), 1u);
-    EXPECT_EQ(viewer.Word(4), 2'000'000u);
-    EXPECT_EQ(viewer.Word(0), 14u);
-}
-
-TEST(TraceRingBetweenProcesses, RingStaysWhenTheSettingsGoOverToAnotherOutput)
-{
-    TraceScene scene;
-    TraceScene::Set(L"Output", L"SM");
-    TraceScene::Set(L"Level", L"8");
-    TracePeer peer(scene.registry());
-    peer.Ask("init");
-    TraceScene::Set(L"Output", L"DBG");
-
-    peer.Ask("init");
-
-    EXPECT_EQ(Viewer().Word(4), 2'000'000u);
 }
 
 } // namespace

@@ -33,6 +33,20 @@ TEST_F(NodeTest, SettingTheTextReplacesAllThatStandsInside)
     EXPECT_EQ(SavedMeaning(document), MeaningOf("<r>&lt;\xC3\xA4 &amp; \"\xF0\x9F\x98\x80\"&gt;</r>"));
 }
 
+TEST_F(NodeTest, AChildThatIsHeldOutlivesTheTextThatReplacesIt)
+{
+    for (int i = 0; i < 100; ++i)
+    {
+        const Document document = Loaded("<r>one<b>two<c>three</c></b></r>");
+        const std::vector<Node> held = document.Elements();
+
+        ASSERT_TRUE(document.Root().SetText(L"text"));
+
+        EXPECT_EQ(held.at(0).Text().view(), L"twothree");
+        EXPECT_FALSE(held.at(0).Parent());
+    }
+}
+
 TEST_F(NodeTest, ATextThatXmlCannotHoldIsRefused)
 {
     const Document document = Loaded("<r>one</r>");

@@ -169,10 +169,11 @@ void Set(const Report& report, const Arguments& arguments)
     const Announcement announcement(FolderWord, name);
     Require(LogNameSetValueBL(name.c_str(), ToWide(arguments.parameter).c_str(), value.c_str()), arguments);
     const ReadResult after = Read(arguments);
-    const bool isKnownSame =
-        before.result == PGSP_OK && after.result == PGSP_OK && before.value == after.value;
+    const bool differs = before.result != after.result || before.value != after.value;
+    const bool isKnownSame = !differs && after.result == PGSP_OK;
     // What can't be read, as an empty value, may have changed all the same: then it has been announced.
-    const bool changed = !isKnownSame && announcement.Wait();
+    const bool announced = !isKnownSame && announcement.Wait();
+    const bool changed = differs || announced;
     Done(report, arguments, changed ? "set" : "unchanged");
 }
 

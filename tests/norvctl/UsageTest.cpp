@@ -1,0 +1,89 @@
+#include "support/Norvctl.h"
+
+#include <nlohmann/json.hpp>
+
+namespace norvepa::test
+{
+namespace
+{
+
+using nlohmann::json;
+using testing::AllOf;
+using testing::HasSubstr;
+
+// What a command line that isn't one is answered with.
+struct Misuse
+{
+    const char* name;
+    Words arguments;
+    const char* answer;
+};
+
+class NorvctlMisuse : public testing::TestWithParam<Misuse>
+{
+};
+
+TEST_P(NorvctlMisuse, EndsWithOneAndSaysWhyOnStandardError)
+{
+    const ProgramEnd end = RunNorvctl(GetParam().arguments);
+
+    EXPECT_EQ(end.exitCode, 1U);
+    EXPECT_EQ(end.output, "");
+    EXPECT_THAT(end.error, AllOf(HasSubstr(GetParam().answer), HasSubstr("Run with --help")));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    CommandLines, NorvctlMisuse,
+    testing::Values(Misuse{"Nothing", {}, "A subcommand is required"},
+                    Misuse{"UnknownNoun", {L"nix"}, "subcommand is required"},
+                    Misuse{"NounAlone", {L"name"}, "A subcommand is required"},
+                    Misuse{"UnknownVerb", {L"name", L"nix"}, "subcommand is required"},
+                    Misuse{"TraceAlone", {L"trace"}, "A subcommand is required"},
+                    Misuse{"ShowWithoutName", {L"name", L"show"}, "NAME is required"},
+                    Misuse{"CreateWithoutName", {L"name", L"create"}, "NAME is required"},
+                    Misuse{"DeleteWithoutName", {L"name", L"delete"}, "NAME is required"},
+                    Misuse{"GetWithoutName", {L"name", L"get"}, "NAME is required"},
+                    Misuse{"GetWithTooMuch", {L"name", L"get", L"a", L"b", L"c"}, "c"},
+                    Misuse{"SetWithoutParameter", {L"name", L"set", L"a"}, "PARAMETER is required"},
+                    Misuse{"SetWithoutValue", {L"name", L"set", L"a", L"b"}, "VALUE is required"},
+                    Misuse{"UnsetWithoutParameter", {L"name", L"unset", L"a"}, "PARAMETER is required"},
+                    Misuse{"WatchWithoutFolder", {L"watch"}, "FOLDER is required"},
+                    Misuse{"WatchOfUnknownFolder", {L"watch", L"Foo"}, "Foo not in"},
+                    Misuse{"WatchWithoutNumber", {L"watch", L"meta", L"--timeout", L"x"}, "--timeout"},
+                    Misuse{"WatchForTooLong", {L"watch", L"meta", L"--timeout", L"1e12"}, "not in range"},
+                    Misuse{"WatchForNegativeTime", {L"watch", L"meta", L"--timeout", L"-1"}, "not in range"},
+                    Misuse{"TraceInUnknownFormat", {L"trace", L"on", L"--format", L"LOUD"}, "LOUD not in"},
+                    Misuse{"TraceToUnknownOutput", {L"trace", L"on", L"--output", L"PIPE"}, "PIPE not in"}),
+    [](const auto& misuse) { return misuse.param.name; });
+
+TEST(NorvctlVersion, NamesTheLibraryAndItsVersion)
+{
+    const ProgramEnd end = RunNorvctl({L"version"});
+
+    EXPECT_EQ(end.exitCode, 0U);
+    EXPECT_EQ(end.output, "NorvepaBl64x " NORV_PROJECT_VERSION "\n");
+    EXPECT_EQ(end.error, "");
+}
+
+TEST(NorvctlVersion, AsJsonIsOneDocument)
+{
+    const json version = json::parse(OutputOfNorvctl({L"--json", L"version"}));
+
+    EXPECT_EQ(version, (json{{"library", "NorvepaBl64x"}, {"version", NORV_PROJECT_VERSION}}));
+}
+
+TEST(NorvctlHelp, NamesEveryVerb)
+{
+    const std::string nouns = OutputOfNorvctl({L"--help"});
+    const std::string names = OutputOfNorvctl({L"name", L"--help"});
+    const std::string traces = OutputOfNorvctl({L"trace", L"--help"});
+
+    EXPECT_THAT(nouns,
+                AllOf(HasSubstr("name"), HasSubstr("watch"), HasSubstr("trace"), HasSubstr("version")));
+    EXPECT_THAT(names, AllOf(HasSubstr("list"), HasSubstr("show"), HasSubstr("create"), HasSubstr("delete"),
+                             HasSubstr("get"), HasSubstr("set"), HasSubstr("unset")));
+    EXPECT_THAT(traces, AllOf(HasSubstr("status"), HasSubstr("on"), HasSubstr("off")));
+}
+
+} // namespace
+} // namespace norvepa::test
