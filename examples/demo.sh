@@ -52,4 +52,4 @@ rm "$watched"
 
 say 'Tracing is switched off again; what the first calls have left'
 run norvctl trace off
-iconv -f CP1252 -t UTF-8 "$store/trace/Demo1.TRC" | head -n 18
+iconv -f CP1252 -t UTF-8 "$store/trace/Demo1.TRC" | sed -n '1,18p'
