@@ -22,8 +22,7 @@ class KeptCounter
 {
 public:
     KeptCounter()
-        : m_mapping(CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(LONG),
-                                       L"Global\\NorvTRACE_SECTION")),
+        : m_mapping(OpenOrCreate()),
           m_value(static_cast<LONG*>(MapViewOfFile(m_mapping, FILE_MAP_WRITE, 0, 0, sizeof(LONG))))
     {
         if (m_value == nullptr)
@@ -46,6 +45,24 @@ public:
     }
 
 private:
+    // The one that a traced process has made refuses a creation, which wishes for all rights; and it may go
+    // with that process between the two attempts.
+    static HANDLE OpenOrCreate()
+    {
+        constexpr wchar_t Name[] = L"Global\\NorvTRACE_SECTION";
+        HANDLE mapping = nullptr;
+        for (int attempt = 0; mapping == nullptr && attempt < 100; ++attempt)
+        {
+            mapping = OpenFileMappingW(FILE_MAP_WRITE, FALSE, Name);
+            if (mapping == nullptr)
+            {
+                mapping =
+                    CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(LONG), Name);
+            }
+        }
+        return mapping;
+    }
+
     HANDLE m_mapping;
     LONG* m_value;
 };

@@ -1,6 +1,7 @@
 #include "support/Norvctl.h"
 
 #include <nlohmann/json.hpp>
+#include <ostream>
 
 namespace norvepa::test
 {
@@ -18,6 +19,11 @@ struct Misuse
     Words arguments;
     const char* answer;
 };
+
+void PrintTo(const Misuse& misuse, std::ostream* stream)
+{
+    *stream << misuse.name;
+}
 
 class NorvctlMisuse : public testing::TestWithParam<Misuse>
 {
