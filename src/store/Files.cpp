@@ -17,6 +17,26 @@ namespace
 
 constexpr DWORD SizeLimit = 10'000'000; // bytes
 
+struct FilePair
+{
+    std::wstring oldFile;
+    std::wstring newFile;
+};
+
+// Neither path is escaped before both are known to be there. The extension is each operation's own.
+Result EscapeBoth(const wchar_t* sourcePath, const wchar_t* destinationPath, FilePair& files)
+{
+    if (IsMissing(sourcePath) || IsMissing(destinationPath))
+    {
+        return PGSP_ERR_INVALID_PARAMETERS;
+    }
+    if (const Result result = EscapePath(sourcePath, files.oldFile); result != PGSP_OK)
+    {
+        return result;
+    }
+    return EscapePath(destinationPath, files.newFile);
+}
+
 } // namespace
 
 Result CheckFileSize(const std::wstring& path)
@@ -71,7 +91,7 @@ Result NorvXMLFileExists(const wchar_t* filePath)
     }
     ExtendByEndRule(file);
 
-    NORV_TRACE(source, TraceEntry, ">> filePath = %s", TraceToAnsi(file.c_str()));
+    NORV_TRACE(source, TraceEntry, ">> filePath = %s", TraceToAnsi(filePath));
     return _waccess_s(file.c_str(), 0) == 0 ? PGSP_ERR_FILE_EXISTS : PGSP_ERR_FILE_NOT_FOUND;
 }
 
@@ -80,20 +100,12 @@ Result NorvXMLCopyFile(const wchar_t* sourcePath, const wchar_t* destinationPath
     constexpr TraceSource source{"NorvXMLCopyFile: ", "XML"};
 
     NORV_TRACE(source, TraceEntry, ">> destinationPath = %s", TraceToAnsi(destinationPath));
-    if (IsMissing(sourcePath) || IsMissing(destinationPath))
-    {
-        return PGSP_ERR_INVALID_PARAMETERS;
-    }
-    std::wstring oldFile;
-    std::wstring newFile;
-    if (const Result result = EscapePath(sourcePath, oldFile); result != PGSP_OK)
+    FilePair files;
+    if (const Result result = EscapeBoth(sourcePath, destinationPath, files); result != PGSP_OK)
     {
         return result;
     }
-    if (const Result result = EscapePath(destinationPath, newFile); result != PGSP_OK)
-    {
-        return result;
-    }
+    auto& [oldFile, newFile] = files;
     ExtendByAnywhereRule(oldFile);
     ExtendByAnywhereRule(newFile);
 
@@ -113,20 +125,12 @@ Result NorvXMLRenameFile(const wchar_t* sourcePath, const wchar_t* destinationPa
     constexpr TraceSource source{"NorvXMLRenameFile: ", "XML"};
 
     NORV_TRACE(source, TraceEntry, ">> destinationPath = %s", TraceToAnsi(destinationPath));
-    if (IsMissing(sourcePath) || IsMissing(destinationPath))
-    {
-        return PGSP_ERR_INVALID_PARAMETERS;
-    }
-    std::wstring oldFile;
-    std::wstring newFile;
-    if (const Result result = EscapePath(sourcePath, oldFile); result != PGSP_OK)
+    FilePair files;
+    if (const Result result = EscapeBoth(sourcePath, destinationPath, files); result != PGSP_OK)
     {
         return result;
     }
-    if (const Result result = EscapePath(destinationPath, newFile); result != PGSP_OK)
-    {
-        return result;
-    }
+    auto& [oldFile, newFile] = files;
     ExtendByEndRule(oldFile);
     ExtendByEndRule(newFile);
 

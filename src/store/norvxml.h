@@ -111,15 +111,17 @@ namespace norvepa
 [[nodiscard]] Result NorvXMLSetHeaderValue(const wchar_t* filePath, const wchar_t* parameter,
                                            const wchar_t* value);
 
-// Sets a subdevice's parameter, and creates it in a subdevice that is there; PGSP_ERR_CANT_SET_VALUE when it
-// isn't. Any value passes for a "bool", and without a type nothing is tested.
+// Sets a subdevice's parameter, and creates it in a subdevice that is there, the last of its name;
+// PGSP_ERR_CANT_SET_VALUE when there is none. Any value passes for a "bool", and without a type nothing is
+// tested.
 [[nodiscard]] Result NorvXMLSetSubdevValue(const wchar_t* filePath, const wchar_t* subdevName,
                                            const wchar_t* parameter, const wchar_t* value,
                                            const wchar_t* type);
 
-// Removes a parameter from the first section of the name; PGSP_ERR_PARAM_NOT_FOUND when it isn't there. For
-// sections of the settings and notification files the file is saved; for all others the result lies beside
-// it, with "(temp)" behind its name, and the caller goes on with NorvXMLCommitTemp.
+// Removes a parameter from the first section of the name; PGSP_ERR_PARAM_NOT_FOUND when it isn't there. A
+// null or empty section is "SpareSection". For sections of the settings and notification files the file is
+// saved; for all others the result lies beside it, with "(temp)" behind its name, and the caller goes on with
+// NorvXMLCommitTemp.
 [[nodiscard]] Result NorvXMLDelValue(const wchar_t* filePath, const wchar_t* section,
                                      const wchar_t* parameter);
 

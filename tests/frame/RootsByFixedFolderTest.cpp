@@ -69,6 +69,7 @@ TEST_F(RootByFixedFolder, IsEmptyWhenTheShellKnowsNoFolder)
 
     EXPECT_EQ(GetDataFolder(), L"");
     EXPECT_EQ(GetProgramFolder(), L"");
+    EXPECT_FALSE(test::Exists(folder / L"gone")); // nobody makes it
 }
 
 TEST_F(RootByFixedFolder, IsTestedAnewAtEachCall)

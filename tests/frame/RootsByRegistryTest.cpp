@@ -111,6 +111,17 @@ TEST_P(RootByRegistry, Of127CharactersGivesWayToTheFixedFolder)
     EXPECT_EQ(Find(), fixedFolder);
 }
 
+TEST_P(RootByRegistry, IsLimitedInBytesWhateverItsType)
+{
+    const std::wstring root = L"C:\\" + std::wstring(124, L'r');
+
+    SetRoot(REG_BINARY, root.data(), 254);
+    EXPECT_EQ(Find(), root);
+
+    SetRoot(REG_BINARY, root.data(), 256);
+    EXPECT_EQ(Find(), fixedFolder);
+}
+
 TEST_P(RootByRegistry, OfAnotherNameGivesWayToTheFixedFolder)
 {
     SetMachineText(LocationsKey, L"Corvane", L"C:\\Store");

@@ -47,17 +47,6 @@ TEST_F(CommitTest, ADeletionGoesInPlaceBehindIt)
     EXPECT_FALSE(Exists(temporary()));
 }
 
-TEST_F(CommitTest, ANameWithCodesIsCommittedAsWell)
-{
-    WriteBytes(folder() + L"\\50#25 (nmbr)1.xml", LogNameFile(XmlContent().Text(L"a", L"1")));
-    ASSERT_EQ(NorvXMLDelValue((folder() + L"\\50% #1").c_str(), L"Parameters", L"a"), PGSP_OK);
-
-    EXPECT_EQ(NorvXMLCommitTemp(L"50% #1", LogNameSchema, folder().c_str()), PGSP_OK);
-
-    EXPECT_EQ(MeaningOfFile(folder() + L"\\50#25 (nmbr)1.xml"), MeaningOf(LogNameFile({})));
-    EXPECT_FALSE(Exists(folder() + L"\\50#25 (nmbr)1(temp).xml"));
-}
-
 TEST_F(CommitTest, WhatTheSchemaRequiresCannotBeDeleted)
 {
     const std::string device = LogDeviceFile(
@@ -201,13 +190,6 @@ TEST_F(CommitTest, ADeletionThatFailsForAnotherReasonIsNotTold)
 
     EXPECT_EQ(ReadBytes(real()), "real");
     EXPECT_EQ(ReadBytes(temporary()), ValidLogName());
-}
-
-TEST_F(CommitTest, ANameThatOnlyFitsWithoutTheWordIsTooLong)
-{
-    const std::wstring name(254, L'x');
-
-    EXPECT_EQ(NorvXMLCommitTemp(name.c_str(), LogNameSchema, folder().c_str()), PGSP_ERR_BUFFER_TOO_SHORT);
 }
 
 TEST_F(CommitTest, ABadArgumentIsRefusedAndTouchesNothing)

@@ -1,5 +1,4 @@
 #include "store/WriteScene.h"
-#include "support/OpenFile.h"
 
 namespace norvepa::test
 {
@@ -110,6 +109,58 @@ TEST_F(DelValueTest, OnlyTheFirstSectionOfTheNameIsSearched)
     EXPECT_EQ(Delete(L"LocalSettings", L"a"), PGSP_ERR_PARAM_NOT_FOUND);
 }
 
+TEST_F(DelValueTest, ASecondEntryOfTheNameIsThereForTheNextDeletion)
+{
+    GivenFile(LogDeviceFile(
+        XmlContent().Element(L"PGSP_Section", XmlContent().Text(L"a", L"1").Bool(L"A", L"true"))));
+
+    EXPECT_EQ(Delete(L"PGSP_Section", L"a"), PGSP_OK);
+    std::wstring value;
+    EXPECT_EQ(NorvXMLGetValue(path().c_str(), L"PGSP_Section", L"a", &value), PGSP_OK);
+    EXPECT_EQ(value, L"true");
+
+    EXPECT_EQ(Delete(L"PGSP_Section", L"a"), PGSP_OK);
+    EXPECT_EQ(Delete(L"PGSP_Section", L"a"), PGSP_ERR_PARAM_NOT_FOUND);
+}
+
+TEST_F(DelValueTest, TheNameIsOfExactCaseAndAnyOfSeveralCounts)
+{
+    const XmlContent lower = XmlContent().Element(L"name", L"a").Element(L"Value", L"1");
+    const XmlContent several = XmlContent().Element(L"Name", L"b").Element(L"Name", L"a");
+    GivenFile(DeviceWith(XmlContent().Element(L"Parameter", lower).Element(L"Parameter", several)));
+
+    EXPECT_EQ(Delete(L"LocalSettings", L"a"), PGSP_OK);
+
+    EXPECT_EQ(MeaningOfFile(temporary()), MeaningOf(DeviceWith(XmlContent().Element(L"Parameter", lower))));
+}
+
+TEST_F(DelValueTest, OnlyChildrenOfTheSectionAreItsEntries)
+{
+    GivenFile(DeviceWith(XmlContent().Subdevice(L"A", XmlContent().Int(L"a", L"1"))));
+
+    EXPECT_EQ(Delete(L"LocalSettings", L"a"), PGSP_ERR_PARAM_NOT_FOUND);
+}
+
+TEST_F(DelValueTest, TheRootIsNoSection)
+{
+    GivenFile("<PGSP_Section>" + XmlContent().Int(L"a", L"1").utf8() + "</PGSP_Section>");
+
+    EXPECT_EQ(Delete(L"PGSP_Section", L"a"), PGSP_ERR_PARAM_NOT_FOUND);
+}
+
+TEST_F(DelValueTest, WhatBelongsToTheEntryGoesWithItAndNothingElse)
+{
+    const auto section = [](const XmlContent& entry) {
+        return DeviceWith(XmlContent().Comment(L"before").Raw(entry.utf8()).Comment(L"behind"));
+    };
+    GivenFile(section(XmlContent().Element(
+        L"Parameter", XmlContent().Comment(L"inside").Element(L"Name", L"a").Element(L"Unit", L"V"))));
+
+    EXPECT_EQ(Delete(L"LocalSettings", L"a"), PGSP_OK);
+
+    EXPECT_EQ(MeaningOfFile(temporary()), MeaningOf(section({})));
+}
+
 TEST_F(DelValueTest, WhatIsNotThereWritesNothing)
 {
     GivenFile(LogDeviceFile(XmlContent()
@@ -184,17 +235,6 @@ TEST_F(DelValueTest, ALeftoverIsLookedForByATwiceEscapedName)
     EXPECT_EQ(NorvXMLDelValue((folder() / L"50%").c_str(), L"LocalSettings", L"a"), PGSP_OK);
 
     EXPECT_FALSE(Exists(folder() / L"50(nmbr)25(temp).xml"));
-}
-
-TEST_F(DelValueTest, ATemporaryFileThatCannotBeWrittenIsNotTold)
-{
-    GivenFile(DeviceWith(XmlContent().Int(L"a", L"1")));
-    WriteBytes(temporary(), "left over");
-    const OpenFile inUse(temporary());
-
-    EXPECT_EQ(Delete(L"LocalSettings", L"a"), PGSP_OK);
-
-    EXPECT_EQ(ReadBytes(temporary()), "left over");
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "frame/StoreLocations.h"
 #include "notify/directoryCache.h"
 #include "store/norvxml.h"
 #include "support/OutputBuffer.h"
@@ -56,6 +57,22 @@ TEST_F(FilesEnumTest, NamesAreUnescapedAndWithoutExtension)
 
     EXPECT_THAT(Names(folder()),
                 testing::UnorderedElementsAre(L"Kessel#1", L"50% <A|B>", L"Gr\u00F6\u00DFe"));
+}
+
+TEST_F(FilesEnumTest, ATemporaryFileIsNotHidden)
+{
+    GivenFiles({L"a.xml", L"a(temp).xml"});
+
+    EXPECT_THAT(Names(folder()), testing::UnorderedElementsAre(L"a", L"a(temp)"));
+}
+
+TEST_F(FilesEnumTest, TheOrderIsTheDirectorys)
+{
+    GivenFiles({L"c.xml", L"a.xml", L"b.xml"});
+    std::shared_ptr<const DirectoryListing> listing;
+    ASSERT_EQ(getDirectoryContent(folder(), GetDataFolder(), listing), PGSP_OK);
+
+    EXPECT_THAT(Names(folder()), testing::ElementsAreArray(*listing));
 }
 
 TEST_F(FilesEnumTest, PastTheEndThereAreNoMoreItems)

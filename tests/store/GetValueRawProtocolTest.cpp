@@ -1,4 +1,10 @@
 #include "store/ReadScene.h"
+#include "support/ImportHook.h"
+
+#include <windows.h>
+#include <shlwapi.h>
+
+#include <utility>
 
 namespace norvepa::test
 {
@@ -124,6 +130,25 @@ TEST_F(GetValueRawProtocol, AMalformedPlaceEndsTheFirstSearchAndTheSecondGoesUpT
 
     EXPECT_EQ(GetValueRaw(file, L"p", L"min"), Found(L"1"));
     EXPECT_EQ(GetValueRaw(file, L"q", L"min"), NotFound());
+}
+
+// Opens the first file, and none behind it.
+HRESULT WINAPI OpenOnce(const wchar_t* path, DWORD mode, IStream** stream)
+{
+    static bool isFirst = true;
+    if (!std::exchange(isFirst, false))
+    {
+        return HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND);
+    }
+    return SHCreateStreamOnFileEx(path, mode, 0, FALSE, nullptr, stream);
+}
+
+TEST_F(GetValueRawProtocol, AFileThatIsGoneWhenTheSecondSearchOpensItCanNotBeLoaded)
+{
+    const std::wstring file = Protocol(XmlContent().ParamSection(L"p", XmlContent().Element(L"min", L"1")));
+    const ImportHook opening("SHCreateStreamOnFileW", OpenOnce);
+
+    EXPECT_EQ(GetValueRaw(file, L"p", L"min"), (Answer{PGSP_ERR_CANT_LOAD_XML_FILE, L""}));
 }
 
 } // namespace

@@ -12,58 +12,6 @@ std::string DeviceOf(std::wstring_view section, const XmlContent& content)
     return LogDeviceFile(XmlContent().Element(section, content));
 }
 
-class SetHeaderValueSections : public WriteScene, public testing::WithParamInterface<const wchar_t*>
-{
-};
-
-TEST_P(SetHeaderValueSections, AreSearched)
-{
-    GivenFile(DeviceOf(GetParam(), XmlContent().Text(L"a", L"1")));
-
-    EXPECT_EQ(SetHeader(L"a", L"2"), PGSP_OK);
-
-    EXPECT_EQ(Saved(), MeaningOf(DeviceOf(GetParam(), XmlContent().Text(L"a", L"2"))));
-}
-
-INSTANTIATE_TEST_SUITE_P(SetValue, SetHeaderValueSections,
-                         testing::Values(L"BoardAttributes", L"Install", L"DeviceHeader", L"LocalSettings",
-                                         L"NetworkSettings", L"Bindings", L"Ndi", L"MyBoardAttributes",
-                                         L"Install64", L"OldDeviceHeader2", L"NdiLike", L"xInstallx"));
-
-class SetHeaderValueOtherSections : public WriteScene, public testing::WithParamInterface<const wchar_t*>
-{
-};
-
-TEST_P(SetHeaderValueOtherSections, AreNot)
-{
-    GivenFile(DeviceOf(GetParam(), XmlContent().Text(L"a", L"1")));
-    const std::string before = Bytes();
-
-    EXPECT_EQ(SetHeader(L"a", L"2"), PGSP_ERR_CANT_SET_VALUE);
-
-    EXPECT_EQ(Bytes(), before);
-}
-
-INSTANTIATE_TEST_SUITE_P(SetValue, SetHeaderValueOtherSections,
-                         testing::Values(L"UserInterface", L"UserInterface64", L"SpareSection", L"Parameters",
-                                         L"PGSP_Section", L"Constraints", L"localSettings", L"NDI",
-                                         L"Binding", L"Header"));
-
-TEST_F(SetHeaderValueTest, TheFirstInTheDocumentIsSetNotTheFirstOfTheWords)
-{
-    const auto device = [](std::wstring_view ndi) {
-        return LogDeviceFile(XmlContent()
-                                 .Element(L"SpareSection", XmlContent().Text(L"a", L"0"))
-                                 .Element(L"Ndi", XmlContent().Text(L"a", ndi))
-                                 .Element(L"DeviceHeader", XmlContent().Text(L"a", L"9")));
-    };
-    GivenFile(device(L"1"));
-
-    EXPECT_EQ(SetHeader(L"a", L"2"), PGSP_OK);
-
-    EXPECT_EQ(Saved(), MeaningOf(device(L"2")));
-}
-
 TEST_F(SetHeaderValueTest, EntriesOfAnyElementAreSet)
 {
     for (const std::wstring_view element : {L"Parameter", L"ParameterInt", L"ParameterBool", L"anything"})
@@ -86,13 +34,6 @@ TEST_F(SetHeaderValueTest, NothingIsEverCreated)
     EXPECT_EQ(Bytes(), before);
 }
 
-TEST_F(SetHeaderValueTest, ASubdevicesEntriesAreTooDeep)
-{
-    GivenFile(DeviceOf(L"Bindings", XmlContent().Subdevice(L"A", XmlContent().Text(L"a", L"1"))));
-
-    EXPECT_EQ(SetHeader(L"a", L"2"), PGSP_ERR_CANT_SET_VALUE);
-}
-
 TEST_F(SetHeaderValueTest, AValueAheadOfItsNameIsNotFound)
 {
     GivenFile(
@@ -100,6 +41,30 @@ TEST_F(SetHeaderValueTest, AValueAheadOfItsNameIsNotFound)
                                               XmlContent().Element(L"Value", L"1").Element(L"Name", L"a"))));
 
     EXPECT_EQ(SetHeader(L"a", L"2"), PGSP_ERR_CANT_SET_VALUE);
+}
+
+TEST_F(SetHeaderValueTest, NameAndValueAreOfExactCase)
+{
+    const XmlContent name = XmlContent().Element(L"name", L"a").Element(L"Value", L"1");
+    const XmlContent value = XmlContent().Element(L"Name", L"a").Element(L"value", L"1");
+    GivenFile(DeviceOf(L"Ndi", XmlContent().Element(L"Parameter", name).Element(L"Parameter", value)));
+    const std::string before = Bytes();
+
+    EXPECT_EQ(SetHeader(L"a", L"2"), PGSP_ERR_CANT_SET_VALUE);
+
+    EXPECT_EQ(Bytes(), before);
+}
+
+TEST_F(SetHeaderValueTest, OfTwoEntriesOfANameTheFirstIsSet)
+{
+    const auto device = [](std::wstring_view value) {
+        return DeviceOf(L"Ndi", XmlContent().Text(L"a", value).Int(L"A", L"8").Text(L"a", L"9"));
+    };
+    GivenFile(device(L"1"));
+
+    EXPECT_EQ(SetHeader(L"a", L"2"), PGSP_OK);
+
+    EXPECT_EQ(Saved(), MeaningOf(device(L"2")));
 }
 
 TEST_F(SetHeaderValueTest, TheSameValueWritesNothing)

@@ -113,6 +113,84 @@ TEST_F(SetSubdevValueTest, ASecondSubdeviceOfTheNameIsSearchedToo)
     EXPECT_EQ(Saved(), MeaningOf(device(L"2")));
 }
 
+TEST_F(SetSubdevValueTest, ANewParameterGoesToTheLastSubdeviceOfTheName)
+{
+    GivenFile(LogDeviceFile(XmlContent()
+                                .Subdevice(L"A", XmlContent().Int(L"b", L"1"))
+                                .Subdevice(L"a", XmlContent().Int(L"c", L"2"))
+                                .Subdevice(L"Other", {})));
+
+    EXPECT_EQ(SetSubdev(L"A", L"a", L"3", L"int"), PGSP_OK);
+
+    EXPECT_EQ(Saved(),
+              MeaningOf(LogDeviceFile(XmlContent()
+                                          .Subdevice(L"A", XmlContent().Int(L"b", L"1"))
+                                          .Subdevice(L"a", XmlContent().Int(L"c", L"2").Int(L"a", L"3"))
+                                          .Subdevice(L"Other", {}))));
+}
+
+TEST_F(SetSubdevValueTest, OfTwoEntriesOfANameTheFirstIsSet)
+{
+    GivenFile(DeviceWithSubdevice(XmlContent().Int(L"a", L"1").Int(L"A", L"9")));
+
+    EXPECT_EQ(SetSubdev(L"A", L"a", L"2", L"int"), PGSP_OK);
+
+    EXPECT_EQ(Saved(), MeaningOf(DeviceWithSubdevice(XmlContent().Int(L"a", L"2").Int(L"A", L"9"))));
+}
+
+TEST_F(SetSubdevValueTest, AnotherTypeMakesASecondEntry)
+{
+    GivenFile(DeviceWithSubdevice(XmlContent().Int(L"a", L"1")));
+
+    EXPECT_EQ(SetSubdev(L"A", L"a", L"1", nullptr), PGSP_OK);
+
+    EXPECT_EQ(Saved(), MeaningOf(DeviceWithSubdevice(XmlContent().Int(L"a", L"1").Text(L"a", L"1"))));
+}
+
+TEST_F(SetSubdevValueTest, AValueAheadOfItsNameIsNotTheParameters)
+{
+    const XmlContent reversed =
+        XmlContent().Element(L"ParameterInt", XmlContent().Element(L"Value", L"1").Element(L"Name", L"a"));
+    GivenFile(DeviceWithSubdevice(reversed));
+
+    EXPECT_EQ(SetSubdev(L"A", L"a", L"2", L"int"), PGSP_OK);
+
+    EXPECT_EQ(Saved(), MeaningOf(DeviceWithSubdevice(XmlContent(reversed).Int(L"a", L"2"))));
+}
+
+TEST_F(SetSubdevValueTest, OnlyChildrenOfTheSubdeviceAreItsEntries)
+{
+    const XmlContent deeper = XmlContent().Element(L"Group", XmlContent().Int(L"a", L"1"));
+    GivenFile(DeviceWithSubdevice(deeper));
+
+    EXPECT_EQ(SetSubdev(L"A", L"a", L"2", L"int"), PGSP_OK);
+
+    EXPECT_EQ(Saved(), MeaningOf(DeviceWithSubdevice(XmlContent(deeper).Int(L"a", L"2"))));
+}
+
+TEST_F(SetSubdevValueTest, TheRootIsNoSubdevice)
+{
+    GivenFile("<Subdevice SubdevName='A'>" + XmlContent().Int(L"a", L"1").utf8() + "</Subdevice>");
+
+    EXPECT_EQ(SetSubdev(L"A", L"a", L"2", L"int"), PGSP_ERR_CANT_SET_VALUE);
+}
+
+TEST_F(SetSubdevValueTest, NoNameIsTheOneOfASubdeviceWithAnEmptyOne)
+{
+    const auto device = [](std::wstring_view value) {
+        return LogDeviceFile(XmlContent()
+                                 .EmptyTag(L"Subdevice")
+                                 .Subdevice(L"A", XmlContent().Int(L"a", L"9"))
+                                 .Subdevice(L"", XmlContent().Int(L"a", value)));
+    };
+    GivenFile(device(L"1"));
+
+    EXPECT_EQ(SetSubdev(L"", L"a", L"2", L"int"), PGSP_OK);
+    EXPECT_EQ(SetSubdev(nullptr, L"a", L"3", L"int"), PGSP_OK);
+
+    EXPECT_EQ(Saved(), MeaningOf(device(L"3")));
+}
+
 TEST_F(SetSubdevValueTest, TheSameValueWritesNothing)
 {
     GivenFile(DeviceWithSubdevice(XmlContent().Text(L"a", L"Erdgas")));
@@ -121,53 +199,6 @@ TEST_F(SetSubdevValueTest, TheSameValueWritesNothing)
     EXPECT_EQ(SetSubdev(L"A", L"a", L"ERDGAS", L"string"), PGSP_ERR_SAME_VALUE);
 
     EXPECT_EQ(Bytes(), before);
-}
-
-TEST_F(SetSubdevValueTest, AnyValuePassesForABooleanAndStaysAsItIs)
-{
-    GivenFile(DeviceWithSubdevice({}));
-
-    EXPECT_EQ(SetSubdev(L"A", L"my flag", L"yes", L"bool"), PGSP_OK);
-    EXPECT_EQ(SetSubdev(L"A", L"other", L"TRUE", L"BOOL"), PGSP_OK);
-    EXPECT_EQ(SetSubdev(L"A", L"third", L"<>", L"bool"), PGSP_OK);
-
-    EXPECT_EQ(Saved(),
-              MeaningOf(DeviceWithSubdevice(
-                  XmlContent().Bool(L"my flag", L"yes").Bool(L"other", L"TRUE").Bool(L"third", L"<>"))));
-}
-
-TEST_F(SetSubdevValueTest, WithoutATypeNothingIsTested)
-{
-    GivenFile(DeviceWithSubdevice({}));
-
-    EXPECT_EQ(SetSubdev(L"A", L"my param", L"<1>", L""), PGSP_OK);
-    EXPECT_EQ(SetSubdev(L"A", L"<other>", L"<2>", nullptr), PGSP_OK);
-
-    EXPECT_EQ(Saved(), MeaningOf(DeviceWithSubdevice(
-                           XmlContent().Text(L"my param", L"<1>").Text(L"<other>", L"<2>"))));
-}
-
-TEST_F(SetSubdevValueTest, NumbersAndStringsAreTested)
-{
-    GivenFile(DeviceWithSubdevice({}));
-    const std::string before = Bytes();
-
-    EXPECT_EQ(SetSubdev(L"A", L"a", L"12a", L"int"), PGSP_ERR_INVALID_PARAMETERS);
-    EXPECT_EQ(SetSubdev(L"A", L"a", L"<", L"string"), PGSP_ERR_INVALID_PARAMETERS);
-    EXPECT_EQ(SetSubdev(L"A", L"my param", L"1", L"String"), PGSP_ERR_INVALID_PARAMETERS);
-
-    EXPECT_EQ(Bytes(), before);
-    EXPECT_EQ(SetSubdev(L"A", L"my param", nullptr, L"int"), PGSP_OK);
-}
-
-TEST_F(SetSubdevValueTest, AnotherWordIsTheElementItself)
-{
-    GivenFile(DeviceWithSubdevice({}));
-
-    EXPECT_EQ(SetSubdev(L"A", L"my param", L"<1>", L"Messwert"), PGSP_OK);
-    EXPECT_EQ(SetSubdev(L"A", L"a", L"1", L"two words"), PGSP_ERR_CANT_SET_VALUE);
-
-    EXPECT_EQ(Saved(), MeaningOf(DeviceWithSubdevice(EntryIn(L"Messwert", L"my param", L"<1>"))));
 }
 
 } // namespace

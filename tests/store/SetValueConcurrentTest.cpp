@@ -1,9 +1,7 @@
+#include "store/Together.h"
 #include "store/WriteScene.h"
 
 #include <atomic>
-#include <barrier>
-#include <thread>
-#include <vector>
 
 namespace norvepa::test
 {
@@ -13,35 +11,14 @@ namespace
 constexpr int Writers = 3;
 constexpr int Rounds = 20;
 
-class SetValueConcurrentTest : public WriteScene
-{
-protected:
-    // Runs as many writers at once, each on a thread without COM; `write` is told which one it is.
-    template <typename Write>
-    static void Together(const Write& write)
-    {
-        std::barrier start(Writers);
-        std::vector<std::thread> threads;
-        for (int writer = 0; writer < Writers; ++writer)
-        {
-            threads.emplace_back([&, writer] {
-                start.arrive_and_wait();
-                write(writer);
-            });
-        }
-        for (std::thread& thread : threads)
-        {
-            thread.join();
-        }
-    }
-};
+using SetValueConcurrentTest = WriteScene;
 
 TEST_F(SetValueConcurrentTest, WritersOfOneFileLeaveItWhole)
 {
     GivenFile(DeviceWith(XmlContent().Int(L"a", L"0")));
     std::atomic<int> strange = 0;
 
-    Together([&](int writer) {
+    Together(Writers, [&](int writer) {
         for (int round = 1; round <= Rounds; ++round)
         {
             // While another one saves, there may be no file, or none that can be loaded.
@@ -65,7 +42,7 @@ TEST_F(SetValueConcurrentTest, WritersOfDifferentFilesDoNotMeet)
     }
     std::atomic<int> failed = 0;
 
-    Together([&](int writer) {
+    Together(Writers, [&](int writer) {
         const std::wstring path = folder() / std::to_wstring(writer);
         for (int round = 1; round <= Rounds; ++round)
         {

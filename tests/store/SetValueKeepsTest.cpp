@@ -5,7 +5,7 @@ namespace norvepa::test
 namespace
 {
 
-// What a save keeps of all that it wasn't asked to change.
+// What a save keeps of all that it wasn't asked to change, beside what every write is tested for.
 class SetValueKeepsTest : public WriteScene
 {
 protected:
@@ -31,21 +31,6 @@ protected:
             .append("</LogDevice>");
     }
 };
-
-TEST_F(SetValueKeepsTest, Comments)
-{
-    ExpectKept("<!-- by hand --><Bindings><!--one--><!-- two - --></Bindings><!---->");
-}
-
-TEST_F(SetValueKeepsTest, ProcessingInstructions)
-{
-    ExpectKept("<?tool checked='yes' by=\"Meier\"?><Bindings><?empty?></Bindings>");
-}
-
-TEST_F(SetValueKeepsTest, OtherNamespacesAndPrefixes)
-{
-    ExpectKept("<o:Thing xmlns:o='urn:o' o:a='1' a='2'><p:q xmlns:p='urn:p'/><r xmlns='urn:r'/></o:Thing>");
-}
 
 TEST_F(SetValueKeepsTest, Attributes)
 {
@@ -92,20 +77,6 @@ TEST_F(SetValueKeepsTest, UnknownSectionsAndEntries)
 TEST_F(SetValueKeepsTest, WhiteSpaceThatIsMarkedAsMeant)
 {
     ExpectKept("<Remark xml:space='preserve'>  </Remark>");
-}
-
-TEST_F(SetValueKeepsTest, AllThatStandsOutsideOfTheRoot)
-{
-    const auto document = [](std::string_view value) {
-        return "<?xml version='1.0' encoding='UTF-8'?><!--head--><?tool one?>" +
-               Document("", value).substr(std::string_view("<?xml version='1.0' encoding='UTF-8'?>").size()) +
-               "<!-- NorvepaBl64x configuration store --><?tool two?>";
-    };
-    GivenFile(document("1"));
-
-    ASSERT_EQ(Set(L"LocalSettings", L"a", L"2", L"int"), PGSP_OK);
-
-    EXPECT_EQ(Saved(), MeaningOf(document("2")));
 }
 
 TEST_F(SetValueKeepsTest, NoPrefixIsBoundAnewByWhatIsAdded)

@@ -1,5 +1,7 @@
 #include "store/WriteScene.h"
 
+#include <ostream>
+
 namespace norvepa::test
 {
 namespace
@@ -10,6 +12,11 @@ struct SectionCase
     const wchar_t* section;
     const char* nameSpace; // below the driver namespace
 };
+
+void PrintTo(const SectionCase& each, std::ostream* out)
+{
+    *out << ToUtf8(each.section);
+}
 
 class SetValueSectionKinds : public WriteScene, public testing::WithParamInterface<SectionCase>
 {
@@ -31,14 +38,30 @@ TEST_P(SetValueSectionKinds, SayTheNamespaceOfANewEntry)
                         nameSpace + "'><Name>a</Name><Value>1</Value></ParameterInt></" + name + "></root>"));
 }
 
+INSTANTIATE_TEST_SUITE_P(SetValue, SetValueSectionKinds,
+                         testing::Values(SectionCase{L"Parameters", "/LogName"},
+                                         SectionCase{L"NotificationSection", "/Notification"},
+                                         SectionCase{L"Updates", "/PGSP"},
+                                         SectionCase{L"PGSP_Section", "/PGSP"},
+                                         SectionCase{L"DateTimeSection", "/PGSP"}));
+
+// All others hold log devices' entries, whatever document they stand in.
 INSTANTIATE_TEST_SUITE_P(
-    SetValue, SetValueSectionKinds,
-    testing::Values(SectionCase{L"Parameters", "/LogName"},
-                    SectionCase{L"NotificationSection", "/Notification"}, SectionCase{L"Updates", "/PGSP"},
-                    SectionCase{L"PGSP_Section", "/PGSP"}, SectionCase{L"DateTimeSection", "/PGSP"},
-                    SectionCase{L"LocalSettings", "/LogDevice"}, SectionCase{L"SpareSection", "/LogDevice"},
-                    SectionCase{L"Clients", "/LogDevice"}, SectionCase{L"parameters", "/LogDevice"},
-                    SectionCase{L"BoardAttributes", "/LogDevice"}));
+    SetValueOther, SetValueSectionKinds,
+    testing::Values(SectionCase{L"DeviceHeader", "/LogDevice"}, SectionCase{L"LocalSettings", "/LogDevice"},
+                    SectionCase{L"NetworkSettings", "/LogDevice"}, SectionCase{L"Bindings", "/LogDevice"},
+                    SectionCase{L"Ndi", "/LogDevice"}, SectionCase{L"UserInterface", "/LogDevice"},
+                    SectionCase{L"UserInterface64", "/LogDevice"}, SectionCase{L"SpareSection", "/LogDevice"},
+                    SectionCase{L"Clients", "/LogDevice"}, SectionCase{L"BoardAttributes", "/LogDevice"},
+                    SectionCase{L"Install", "/LogDevice"}));
+
+INSTANTIATE_TEST_SUITE_P(SetValueCase, SetValueSectionKinds,
+                         testing::Values(SectionCase{L"parameters", "/LogDevice"},
+                                         SectionCase{L"notificationsection", "/LogDevice"},
+                                         SectionCase{L"UPDATES", "/LogDevice"},
+                                         SectionCase{L"Pgsp_Section", "/LogDevice"},
+                                         SectionCase{L"DatetimeSection", "/LogDevice"},
+                                         SectionCase{L"Parameters2", "/LogDevice"}));
 
 } // namespace
 } // namespace norvepa::test

@@ -1,5 +1,4 @@
 #include "store/WriteScene.h"
-#include "support/OpenFile.h"
 
 namespace norvepa::test
 {
@@ -202,17 +201,6 @@ TEST_F(SetValueTest, NullIsTheEmptyValue)
 
     EXPECT_EQ(Saved(), MeaningOf(DeviceWith(XmlContent().Int(L"a", L"").Text(L"b", L""))));
     EXPECT_EQ(Set(L"LocalSettings", L"a", L"", L"int"), PGSP_ERR_SAME_VALUE);
-}
-
-TEST_F(SetValueTest, AFileThatCannotBeWrittenIsNotTold)
-{
-    GivenFile(DeviceWith(XmlContent().Int(L"a", L"1")));
-    const std::string before = Bytes();
-    const OpenFile inUse(file());
-
-    EXPECT_EQ(Set(L"LocalSettings", L"a", L"2", L"int"), PGSP_OK);
-
-    EXPECT_EQ(Bytes(), before);
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 #include "support/FreshThread.h"
 #include "support/OpenFile.h"
 
+#include <ostream>
+
 namespace norvepa::test
 {
 namespace
@@ -166,6 +168,11 @@ struct SchemaCase
     const wchar_t* schema;
     const char* nameSpace; // below the driver namespace
 };
+
+void PrintTo(const SchemaCase& each, std::ostream* out)
+{
+    *out << ToUtf8(each.schema);
+}
 
 class ValidateNamespaces : public CommitScene, public testing::WithParamInterface<SchemaCase>
 {

@@ -10,47 +10,53 @@ namespace norvepa::test
 namespace
 {
 
-BYTE* Base()
+// A module as it lies in memory.
+class Image
 {
-    return reinterpret_cast<BYTE*>(GetModuleHandleW(nullptr));
-}
+public:
+    explicit Image(HMODULE module) : m_base(reinterpret_cast<BYTE*>(module)) {}
 
-template <typename Type>
-Type* At(DWORD offset)
-{
-    return reinterpret_cast<Type*>(Base() + offset);
-}
-
-const IMAGE_IMPORT_DESCRIPTOR* FirstLibrary()
-{
-    const auto* headers = At<IMAGE_NT_HEADERS>(static_cast<DWORD>(At<IMAGE_DOS_HEADER>(0)->e_lfanew));
-    return At<IMAGE_IMPORT_DESCRIPTOR>(
-        headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress);
-}
-
-bool IsNamed(const IMAGE_THUNK_DATA& import, const char* function)
-{
-    return !IMAGE_SNAP_BY_ORDINAL(import.u1.Ordinal) &&
-           std::strcmp(At<IMAGE_IMPORT_BY_NAME>(static_cast<DWORD>(import.u1.AddressOfData))->Name,
-                       function) == 0;
-}
-
-void** FindSlot(const char* function)
-{
-    for (const auto* library = FirstLibrary(); library->Name != 0; ++library)
+    // The place that holds the address of an imported function.
+    [[nodiscard]] void** FindSlot(const char* function) const
     {
-        const auto* name = At<IMAGE_THUNK_DATA>(library->OriginalFirstThunk);
-        auto* slot = At<void*>(library->FirstThunk);
-        for (; name->u1.AddressOfData != 0; ++name, ++slot)
+        for (const auto* library = FirstLibrary(); library->Name != 0; ++library)
         {
-            if (IsNamed(*name, function))
+            const auto* name = At<IMAGE_THUNK_DATA>(library->OriginalFirstThunk);
+            auto* slot = At<void*>(library->FirstThunk);
+            for (; name->u1.AddressOfData != 0; ++name, ++slot)
             {
-                return slot;
+                if (IsNamed(*name, function))
+                {
+                    return slot;
+                }
             }
         }
+        throw std::runtime_error(std::string("the module doesn't import ") + function);
     }
-    throw std::runtime_error(std::string("this program doesn't import ") + function);
-}
+
+private:
+    template <typename Type>
+    [[nodiscard]] Type* At(DWORD offset) const
+    {
+        return reinterpret_cast<Type*>(m_base + offset);
+    }
+
+    [[nodiscard]] const IMAGE_IMPORT_DESCRIPTOR* FirstLibrary() const
+    {
+        const auto* headers = At<IMAGE_NT_HEADERS>(static_cast<DWORD>(At<IMAGE_DOS_HEADER>(0)->e_lfanew));
+        return At<IMAGE_IMPORT_DESCRIPTOR>(
+            headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress);
+    }
+
+    [[nodiscard]] bool IsNamed(const IMAGE_THUNK_DATA& import, const char* function) const
+    {
+        return !IMAGE_SNAP_BY_ORDINAL(import.u1.Ordinal) &&
+               std::strcmp(At<IMAGE_IMPORT_BY_NAME>(static_cast<DWORD>(import.u1.AddressOfData))->Name,
+                           function) == 0;
+    }
+
+    BYTE* m_base;
+};
 
 void Store(void** slot, void* function)
 {
@@ -62,8 +68,8 @@ void Store(void** slot, void* function)
 
 } // namespace
 
-ImportHook::ImportHook(const char* function, void* replacement)
-    : m_slot(FindSlot(function)), m_original(*m_slot)
+ImportHook::ImportHook(const char* function, void* replacement, HMODULE module)
+    : m_slot(Image(module).FindSlot(function)), m_original(*m_slot)
 {
     Store(m_slot, replacement);
 }

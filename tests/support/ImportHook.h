@@ -1,8 +1,8 @@
 #pragma once
 
-// One imported function of this program, led to another for as long as the object lives: how a test
-// meets what a real system does only when it is broken, and sees what is told to places that can't be
-// read back.
+// One imported function of a module, this program or a library it has loaded, led to another for as long as
+// the object lives: how a test meets what a real system does only when it is broken, and sees what is told to
+// places that can't be read back. Callers must keep the library loaded meanwhile.
 
 #include <windows.h>
 
@@ -12,10 +12,10 @@ namespace norvepa::test
 class ImportHook
 {
 public:
-    // `replacement` must have the function's own type. Throws when the program doesn't import it.
+    // `replacement` must have the function's own type. Throws when the module doesn't import it.
     template <typename Function>
-    ImportHook(const char* function, Function* replacement)
-        : ImportHook(function, reinterpret_cast<void*>(replacement))
+    ImportHook(const char* function, Function* replacement, HMODULE module = GetModuleHandleW(nullptr))
+        : ImportHook(function, reinterpret_cast<void*>(replacement), module)
     {
     }
     ImportHook(const ImportHook&) = delete;
@@ -23,7 +23,7 @@ public:
     ~ImportHook();
 
 private:
-    ImportHook(const char* function, void* replacement);
+    ImportHook(const char* function, void* replacement, HMODULE module);
 
     void** m_slot;
     void* m_original;

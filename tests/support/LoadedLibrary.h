@@ -50,7 +50,17 @@ private:
 // The exports with the types that the public header gives them: one line for each.
 struct Exports : LoadedLibrary
 {
+    decltype(&::LogNameCreateBL) LogNameCreateBL = Find("LogNameCreateBL");
+    decltype(&::LogNameDelValueBL) LogNameDelValueBL = Find("LogNameDelValueBL");
+    decltype(&::LogNameDeleteBL) LogNameDeleteBL = Find("LogNameDeleteBL");
+    decltype(&::LogNameExistBL) LogNameExistBL = Find("LogNameExistBL");
+    decltype(&::LogNameGetEnumBL) LogNameGetEnumBL = Find("LogNameGetEnumBL");
+    decltype(&::LogNameGetLogDeviceBL) LogNameGetLogDeviceBL = Find("LogNameGetLogDeviceBL");
     decltype(&::LogNameGetValueBL) LogNameGetValueBL = Find("LogNameGetValueBL");
+    decltype(&::LogNameSetValueBL) LogNameSetValueBL = Find("LogNameSetValueBL");
+
+    decltype(&::RegisterNotification) RegisterNotification = Find("RegisterNotification");
+    decltype(&::UnRegisterNotification) UnRegisterNotification = Find("UnRegisterNotification");
 
     decltype(&::NorvepaBl64x_deinit) NorvepaBl64x_deinit = Find("NorvepaBl64x_deinit");
 };

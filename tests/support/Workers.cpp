@@ -44,7 +44,7 @@ std::vector<HANDLE> Started()
 
 } // namespace
 
-Workers::Workers() : m_hook("CreateThread", Start) {}
+Workers::Workers(HMODULE module) : m_hook("CreateThread", Start, module) {}
 
 Workers::~Workers()
 {

@@ -1,7 +1,8 @@
 #pragma once
 
-// The threads that this program starts by CreateThread while the object lives: counted, and waited for. For
-// programs that link the library's objects: there these are its workers, and no others. One at a time.
+// The threads that a module starts by CreateThread while the object lives: counted, and waited for. The
+// library's are its workers, and no others; in programs that link its objects they are the program's. One
+// object at a time, and gone before the library is.
 
 #include "support/ImportHook.h"
 
@@ -15,7 +16,7 @@ namespace norvepa::test
 class Workers
 {
 public:
-    Workers();
+    explicit Workers(HMODULE module = GetModuleHandleW(nullptr));
     Workers(const Workers&) = delete;
     Workers& operator=(const Workers&) = delete;
     ~Workers(); // waits for those still about

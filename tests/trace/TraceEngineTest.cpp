@@ -10,6 +10,7 @@
 
 #include <filesystem>
 #include <gmock/gmock.h>
+#include <ostream>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -119,27 +120,36 @@ TEST_F(TraceEngineTest, MissingLibraryIsToldToTheEventLog)
                             "report 42 1 1 c0001400 [" + test::ToUtf8(libraryPath()) + "]", "deregister 42"));
 }
 
-TEST_F(TraceEngineTest, MissingExportIsToldToTheEventLog)
+struct MissingExport
+{
+    std::wstring variant;
+    std::string name;
+
+    friend void PrintTo(const MissingExport& row, std::ostream* out) { *out << row.name; }
+};
+
+class TraceEngineExport : public TraceEngineTest, public testing::WithParamInterface<MissingExport>
+{
+};
+
+TEST_P(TraceEngineExport, ThatIsMissingIsToldToTheEventLog)
 {
     const EventLogEntries log;
-    Install(L"without_write");
+    Install(GetParam().variant);
 
     EXPECT_FALSE(TraceEngine::Load());
 
     EXPECT_THAT(EventLogEntries::told(),
-                ElementsAre("register Norvotrc.c", "report 42 1 1 c0001401 [TraceWrite]", "deregister 42"));
+                ElementsAre("register Norvotrc.c", "report 42 1 1 c0001401 [" + GetParam().name + "]",
+                            "deregister 42"));
 }
 
-TEST_F(TraceEngineTest, ExportThatIsNeverCalledMustBeThereToo)
-{
-    const EventLogEntries log;
-    Install(L"without_close");
-
-    EXPECT_FALSE(TraceEngine::Load());
-
-    EXPECT_THAT(EventLogEntries::told(),
-                ElementsAre("register Norvotrc.c", "report 42 1 1 c0001401 [TraceClose]", "deregister 42"));
-}
+// Those that are never called must be there too.
+INSTANTIATE_TEST_SUITE_P(EveryExport, TraceEngineExport,
+                         testing::Values(MissingExport{L"without_open", "TraceOpenA"},
+                                         MissingExport{L"without_write", "TraceWrite"},
+                                         MissingExport{L"without_command", "TraceCommand"},
+                                         MissingExport{L"without_close", "TraceClose"}));
 
 TEST_F(TraceEngineTest, FailedOpeningIsToldOnceAndTriedAgainWithTheNextLine)
 {
@@ -173,6 +183,23 @@ TEST_F(TraceEngineTest, FailedWriteIsToldOnce)
     EXPECT_THAT(
         EventLogEntries::told(),
         ElementsAre("register Norvotrc.c", "report 42 1 1 80001402 [TraceWrite] [one]", "deregister 42"));
+}
+
+TEST_F(TraceEngineTest, FailuresOfBothCallsAreToldOnceTogether)
+{
+    const EventLogEntries log;
+    Install(L"whole");
+    auto engine = TraceEngine::Load();
+    SetResults(L"5", L"6");
+
+    engine->Write("one");
+    SetResults(L"0", L"6");
+    engine->Write("two");
+
+    EXPECT_THAT(calls(), ElementsAre(openCall(), openCall(), "write 4711,0,1,00470300,two"));
+    EXPECT_THAT(
+        EventLogEntries::told(),
+        ElementsAre("register Norvotrc.c", "report 42 1 1 80001402 [TraceOpenA] [one]", "deregister 42"));
 }
 
 TEST_F(TraceEngineTest, UnknownCommonFolderLeavesTheEngineAlone)
@@ -216,6 +243,23 @@ TEST_F(TraceEngineTest, LinesReachItThroughTheOutputOfItsName)
     }
 
     EXPECT_THAT(calls(), ElementsAre(openCall(), "write 4711,0,1,00470c00,Peer:  line "));
+}
+
+TEST_F(TraceEngineTest, StaysOpenWhenTheSettingsAreReadAnew)
+{
+    Install(L"whole");
+    TraceScene::Set(L"Output", L"NorvTRACEENGINE");
+    TraceScene::Set(L"Level", L"8");
+    TraceScene::Set(L"Format", L"TEXT");
+    test::TracePeer peer(scene().registry());
+    peer.Ask("init");
+    peer.Ask("trace 8 one");
+
+    peer.Ask("init");
+    peer.Ask("trace 8 two");
+
+    EXPECT_THAT(calls(), ElementsAre(openCall(), "write 4711,0,1,00470b00,Peer:  one ",
+                                     "write 4711,0,1,00470b00,Peer:  two "));
 }
 
 TEST_F(TraceEngineTest, WithoutTheLibraryTheOutputStaysSilent)

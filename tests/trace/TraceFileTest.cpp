@@ -189,6 +189,14 @@ TEST_F(TraceFileTest, AfterPassingTheLimitTheOtherFileIsDeletedWhenItHasNone)
     EXPECT_FALSE(Exists(path(2)));
 }
 
+TEST_F(TraceFileTest, AfterPassingTheLimitTheOtherFileIsMadeWhenItIsMissing)
+{
+    Write("1234567890");
+
+    ASSERT_TRUE(Exists(path(2)));
+    EXPECT_EQ(content(2), "");
+}
+
 TEST_F(TraceFileTest, FilesAlternateForEver)
 {
     for (const std::string line : {"1111111111", "2222222222", "3333333333", "4444444444", "5555555555"})
@@ -241,6 +249,18 @@ TEST_F(TraceFileTest, FileThatCannotBeDeletedIsWrittenAllTheSame)
 
     CloseHandle(reader);
     EXPECT_EQ(content(1), over + "x\n");
+}
+
+TEST_F(TraceFileTest, FileThatAnotherProgramHasOpenForWritingIsWrittenBesideIt)
+{
+    WriteBytes(path(1), "");
+    const HANDLE writer = CreateFileW(path(1).c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                      nullptr, OPEN_EXISTING, 0, nullptr);
+
+    Write("x");
+
+    CloseHandle(writer);
+    EXPECT_EQ(content(1), "x\n");
 }
 
 TEST_F(TraceFileTest, PercentSignsOfTheBaseNameStandForThemselves)

@@ -4,14 +4,13 @@
 #include "TraceScene.h"
 #include "support/DebuggerStrings.h"
 #include "support/ImportHook.h"
-#include "trace/TraceDriver.h"
 #include "trace/TraceStatement.h"
 
-#include <windows.h>
-
+#include <algorithm>
+#include <cstddef>
+#include <ctime>
 #include <gmock/gmock.h>
 #include <string>
-#include <vector>
 
 namespace norvepa
 {
@@ -21,7 +20,6 @@ namespace
 
 using test::TracePeer;
 using test::TraceScene;
-using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -97,85 +95,6 @@ TEST(TracePipe, IsNotToldASecondTimeWhileItIsTheOutput)
     EXPECT_THAT(scene.lines(), ElementsAre(UnknownOutput));
 }
 
-TEST(TraceDriver, FaultTextDependsOnTheError)
-{
-    EXPECT_EQ(DriverFault(50), "Unable to open VxD, device does not support DeviceIOCTL");
-    EXPECT_EQ(DriverFault(2), "Unable to open VxD, got error code !");
-    EXPECT_EQ(DriverFault(5), "Unable to open VxD, got error code !");
-}
-
-TEST(TraceDriver, MissingDriverIsToldByTheFormerOutputAndNothingIsWritten)
-{
-    TraceScene scene;
-    scene.TraceToFiles(L"8");
-    TracePeer peer(scene.registry());
-    peer.Ask("init");
-    TraceScene::Set(L"Output", L"VXD");
-
-    peer.Ask("init");
-    peer.Ask("trace 8 line");
-
-    EXPECT_THAT(scene.lines(), ElementsAre("E Unable to open VxD, got error code !"));
-}
-
-HANDLE WINAPI NotADevice(const char*, DWORD, DWORD, SECURITY_ATTRIBUTES*, DWORD, DWORD, HANDLE)
-{
-    SetLastError(ERROR_NOT_SUPPORTED);
-    return INVALID_HANDLE_VALUE;
-}
-
-TEST(TraceDriver, ThatCannotBeOpenedHasTheSystemsError)
-{
-    const test::ImportHook hook("CreateFileA", NotADevice);
-
-    EXPECT_EQ(TraceDriver().error(), static_cast<DWORD>(ERROR_NOT_SUPPORTED));
-}
-
-// The calls that reach a driver that is there.
-struct DriverCalls
-{
-    static inline std::vector<std::string> opened;
-    static inline std::vector<std::string> controlled;
-
-    static HANDLE WINAPI Open(const char* name, DWORD access, DWORD sharing, SECURITY_ATTRIBUTES* security,
-                              DWORD disposition, DWORD flags, HANDLE)
-    {
-        opened.push_back(std::string(name) + " " + std::to_string(access) + " " + std::to_string(sharing) +
-                         " " + (security == nullptr ? "plain" : "secured") + " " +
-                         std::to_string(disposition) + " " + std::to_string(flags));
-        return CreateEventW(nullptr, TRUE, FALSE, nullptr);
-    }
-
-    static BOOL WINAPI Control(HANDLE, DWORD code, void* input, DWORD inputSize, void* output,
-                               DWORD outputSize, DWORD*, OVERLAPPED*)
-    {
-        controlled.push_back(std::to_string(code) + " " +
-                             std::string(static_cast<const char*>(input), inputSize) + " " +
-                             (output == nullptr ? "none" : "some") + " " + std::to_string(outputSize));
-        return TRUE;
-    }
-};
-
-TEST(TraceDriver, ThatIsOpenGetsEachLineWithItsTerminatorAndIsOpenedOnce)
-{
-    TraceScene scene;
-    scene.TraceToFiles(L"8");
-    {
-        const test::ImportHook opening("CreateFileA", DriverCalls::Open);
-        GoOverTo(L"VXD");
-        GoOverTo(L"VXD");
-    }
-    const test::ImportHook controlling("DeviceIoControl", DriverCalls::Control);
-
-    NORV_TRACE(source, TraceEntry, "text");
-
-    EXPECT_THAT(DriverCalls::opened,
-                ElementsAre("\\\\.\\NorvONLINX.VXD 0 0 plain " + std::to_string(CREATE_NEW) + " " +
-                            std::to_string(FILE_FLAG_DELETE_ON_CLOSE)));
-    EXPECT_THAT(DriverCalls::controlled, ElementsAre("2 Test:  text " + std::string(1, '\0') + " none 0"));
-    EXPECT_THAT(scene.lines(), IsEmpty());
-}
-
 TEST(TraceOutputs, UnknownWordLeavesFileOutputInForce)
 {
     TraceScene scene;
@@ -231,6 +150,20 @@ TEST(TraceOutputs, BytesPerFileMakeTheFilesAlternate)
 
     EXPECT_EQ(test::ReadBytes(scene.file(1)), "Test:  one \nTest:  two \n");
     EXPECT_EQ(test::ReadBytes(scene.file(2)), "Test:  three \n");
+}
+
+TEST(TraceOutputs, FilesAreCalledByTheirNameUpToItsDotAndTheirNumber)
+{
+    TraceScene scene;
+    TraceScene::Set(L"Byte/File", L"1");
+    scene.TraceToFiles(L"8");
+    TraceScene::Set(L"FileName", L"trace.log");
+    TraceScene::ReadSettings();
+
+    NORV_TRACE(source, TraceEntry, "one");
+
+    EXPECT_THAT(test::FileNames(scene.folder().path()),
+                testing::UnorderedElementsAre(L"trace1.TRC", L"trace2.TRC"));
 }
 
 TEST(TraceOutputs, TwoProcessesWriteTheSamePairOfFiles)

@@ -46,6 +46,17 @@ TEST(TraceSecurity, CounterMayBeMappedForWritingByAuthenticatedUsers)
     EXPECT_EQ(AccessList(counter), "D:(A;;DC;;;AU)");
 }
 
+TEST(TraceSecurity, MutexHasTheSecurityGivenAtTheLoadAndIsOpenedForWaitingOnly)
+{
+    TraceScene scene;
+    TracePeer peer(scene.registry());
+    peer.Ask("note-mutex");
+
+    peer.Ask("init-secured");
+
+    EXPECT_EQ(peer.Ask("mutex"), "secured Global\\NorvTRACE_MUTEX 0 " + std::to_string(SYNCHRONIZE));
+}
+
 TEST(TraceSecurity, RingHasTheSecurityGivenAtTheLoad)
 {
     TraceScene scene;

@@ -220,7 +220,7 @@ TEST_F(TraceSettingsTest, ValueOf260BytesWithItsTerminatorIsTheLongestThatCounts
     Set(L"Level", L"8" + std::wstring(258, L' '));
     EXPECT_EQ(Read().levels, 8u);
 
-    Set(L"Level", L"8" + std::wstring(260, L' '));
+    Set(L"Level", L"8" + std::wstring(259, L' '));
     EXPECT_EQ(Read().levels, 0u);
 }
 

@@ -69,6 +69,27 @@ std::string Mask(std::istream&)
     return std::to_string(trace_state::levelMask.load());
 }
 
+// How the trace mutex was asked for.
+std::string mutexCall = "not at all";
+
+HANDLE WINAPI NoteMutex(SECURITY_ATTRIBUTES* security, const char* name, DWORD flags, DWORD access)
+{
+    mutexCall = std::string(security == nullptr ? "plain " : "secured ") + name + " " +
+                std::to_string(flags) + " " + std::to_string(access);
+    return CreateMutexExW(security, test::FromUtf8(name).c_str(), flags, access);
+}
+
+std::string NoteMutexCall(std::istream&)
+{
+    static const test::ImportHook hook("CreateMutexExA", NoteMutex);
+    return "done";
+}
+
+std::string MutexCall(std::istream&)
+{
+    return mutexCall;
+}
+
 HANDLE WINAPI NoMutex(SECURITY_ATTRIBUTES*, const char*, DWORD, DWORD)
 {
     SetLastError(ERROR_ACCESS_DENIED);
@@ -153,6 +174,8 @@ int main()
         {"lock", Lock},
         {"unlock", Unlock},
         {"mask", Mask},
+        {"note-mutex", NoteMutexCall},
+        {"mutex", MutexCall},
         {"fail-mutex", FailMutex},
         {"fail-mappings", FailMappings},
         {"lose-counter-race", LoseCounterRace},
