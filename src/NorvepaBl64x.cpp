@@ -1,5 +1,6 @@
 #include "NorvepaBl64x.h"
 
+#include "meta/cMetaFiles.h"
 #include "norvepa.h"
 #include "notify/NotifyRegistration.h"
 #include "notify/directoryCache.h"
@@ -83,6 +84,7 @@ CNorvepaBl64xApp theApp;
 
 void NorvepaBl64x_deinit(void)
 {
+    norvepa::MetaDropAllDocuments();
     norvepa::deinitWatchDirectories();
 }
 

@@ -22,6 +22,20 @@ namespace norvepa
     return text == nullptr ? std::wstring_view{} : std::wstring_view(text);
 }
 
+// What a parameter name that is null or empty stands for, but for log devices, which have another.
+inline constexpr wchar_t DefaultParameter[] = L"(default)";
+
+[[nodiscard]] inline const wchar_t* ParameterOrDefault(const wchar_t* parameter) noexcept
+{
+    return IsMissing(parameter) ? DefaultParameter : parameter;
+}
+
+// What a length pointer that may be null points to, for the trace.
+[[nodiscard]] inline std::uint32_t LengthOrZero(const std::uint32_t* length) noexcept
+{
+    return length == nullptr ? 0 : *length;
+}
+
 // The output rule: copies `text` with its terminator when `*length`, in characters, is greater than its
 // length, and otherwise leaves the buffer alone; sets `*length` to the text's length either way.
 // PGSP_OK or PGSP_ERR_BUFFER_TOO_SHORT. Buffer and length must be there.

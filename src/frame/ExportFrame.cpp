@@ -18,6 +18,18 @@ Result ExportFrame::InvalidParameters() const noexcept
     return PGSP_ERR_INVALID_PARAMETERS;
 }
 
+Result ExportFrame::Ok() const noexcept
+{
+    NORV_TRACE(*this, TraceExit, "<< return PGSP_OK");
+    return PGSP_OK;
+}
+
+Result ExportFrame::BufferTooShort() const noexcept
+{
+    NORV_TRACE(*this, TraceExit, "<< return PGSP_ERR_BUFFER_TOO_SHORT");
+    return PGSP_ERR_BUFFER_TOO_SHORT;
+}
+
 Result ExportFrame::FolderNotFound(const char* whichFolder) const noexcept
 {
     NORV_TRACE(*this, TraceInfo, "%s", whichFolder);

@@ -20,7 +20,9 @@ struct ExportFrame
 
     // The usual exits, each with its trace.
     [[nodiscard]] Result Return(Result result) const noexcept;
+    [[nodiscard]] Result Ok() const noexcept;
     [[nodiscard]] Result InvalidParameters() const noexcept;
+    [[nodiscard]] Result BufferTooShort() const noexcept;
     [[nodiscard]] Result FolderNotFound(const char* whichFolder) const noexcept;
 
     // For RunExport alone: the code for the exception in flight.

@@ -51,6 +51,17 @@ bool EqualNoCase(std::wstring_view left, std::wstring_view right, std::size_t li
     return EqualNoCase(left.substr(0, limit), right.substr(0, limit));
 }
 
+std::wstring ToLower(std::wstring_view text)
+{
+    std::wstring lower(text);
+    const auto size = static_cast<int>(lower.size());
+    if (size > 0)
+    {
+        LCMapStringW(LOCALE_INVARIANT, LCMAP_LOWERCASE, text.data(), size, lower.data(), size);
+    }
+    return lower;
+}
+
 std::vector<std::wstring> Tokenize(std::wstring_view text)
 {
     std::vector<std::wstring> tokens;

@@ -18,6 +18,9 @@ namespace norvepa
 // At most the first `limit` characters of each, as for fields and keys of a fixed width.
 [[nodiscard]] bool EqualNoCase(std::wstring_view left, std::wstring_view right, std::size_t limit) noexcept;
 
+// Every letter that has a small form in that form, by the same table. As long as `text`.
+[[nodiscard]] std::wstring ToLower(std::wstring_view text);
+
 // The parts between backslashes. A run of backslashes is one, leading ones are skipped, and nothing
 // follows a trailing one.
 [[nodiscard]] std::vector<std::wstring> Tokenize(std::wstring_view text);

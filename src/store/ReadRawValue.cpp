@@ -1,5 +1,6 @@
 #include "frame/Arguments.h"
 #include "frame/Text.h"
+#include "store/CatalogueWalk.h"
 #include "store/PullWalk.h"
 #include "store/norvxml.h"
 
@@ -62,13 +63,6 @@ SectionPath Split(const wchar_t* sectionPath)
     return {tokens.empty() ? std::wstring{} : tokens[0], tokens.size() < 2 ? std::wstring{} : tokens[1]};
 }
 
-// True at the `ParamSection` last entered when it is the one of this parameter.
-bool IsParamSectionOf(PullReader& reader, std::wstring_view parameter)
-{
-    std::wstring param;
-    return XmlGetAttribute(reader, L"Param", param) && EqualNoCase(param, parameter);
-}
-
 // A board keeps constraint words in a `ParamSection` inside of a section.
 bool SeekBoardWord(PullReader& reader, const SectionPath& path, std::wstring_view word, std::wstring& value)
 {
@@ -91,9 +85,9 @@ Result ReadProtocolWord(const wchar_t* filePath, std::wstring_view section, std:
     {
         return result;
     }
-    while (SeekSection(reader, L"ParamSection"))
+    while (SeekParamSection(reader, section))
     {
-        if (IsParamSectionOf(reader, section) && ReadChildText(reader, L"ParamSection", word, value))
+        if (ReadChildText(reader, L"ParamSection", word, value))
         {
             return PGSP_OK;
         }

@@ -1,6 +1,7 @@
 #pragma once
 
-// The store's operations on files and on the values in them. Each opens its file, does its work and
+// The store's operations on files and on the values in them; the queries of the catalogue are in
+// norvxmlCatalogue.h. Each opens its file, does its work and
 // forgets it: the store has no state, and what one call read says nothing about the next.
 //
 // Conventions: `filePath` is a full path without extension whose last component is a plain name; the

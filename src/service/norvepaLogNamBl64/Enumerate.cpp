@@ -4,6 +4,7 @@
 #include "norvepa.h"
 #include "service/norvepaLogNamBl64/norvepaLogNamBl64.h"
 #include "store/norvxml.h"
+#include "store/norvxmlCatalogue.h"
 
 #include <string>
 
@@ -56,5 +57,32 @@ int32_t LogNameGetEnumBL(uint32_t index, wchar_t* LogName, uint32_t* LogNameLen)
         NORV_TRACE(frame, TraceExit, "<< return LogName = %s, LogNameLen = %d, index = %d",
                    TraceToAnsi(candidate.c_str()), *LogNameLen, index);
         return result;
+    });
+}
+
+int32_t LogNameGetEnumValueBL(const wchar_t* LogName, uint32_t index, wchar_t* Parameter, uint32_t* parLen,
+                              wchar_t* Value, uint32_t* valLen)
+{
+    return RunExport("LogNameGetEnumValueBL: ", [&](const ExportFrame& frame) -> Result {
+        NORV_TRACE(frame, TraceEntry, ">> LogName = %s, index = %d", TraceToAnsi(LogName), index);
+        const PairBuffers pair{Parameter, parLen, Value, valLen};
+        if (IsMissing(LogName) || !pair.HasBuffers() || !pair.HasLengths())
+        {
+            return frame.InvalidParameters();
+        }
+        const std::wstring dataFolder = GetDataFolder();
+        if (dataFolder.empty())
+        {
+            return frame.FolderNotFound("Can not get ProgramData Path");
+        }
+
+        const Result result = NorvXMLEnumValue(LogNameFile(dataFolder, LogName).c_str(), index, pair);
+        if (result != PGSP_OK)
+        {
+            return frame.Return(result);
+        }
+        NORV_TRACE(frame, TraceExit, "Parameter = %s, parLen = %d, Value = %s, valLen = %d",
+                   TraceToAnsi(Parameter), *parLen, TraceToAnsi(Value), *valLen);
+        return PGSP_OK;
     });
 }

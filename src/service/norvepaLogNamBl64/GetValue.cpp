@@ -23,7 +23,7 @@ int32_t LogNameGetValueBL(const wchar_t* LogName, const wchar_t* Parameter, wcha
             return frame.FolderNotFound("Can not get ProgramData Path");
         }
 
-        const wchar_t* const parameter = IsMissing(Parameter) ? DefaultParameter : Parameter;
+        const wchar_t* const parameter = ParameterOrDefault(Parameter);
         const std::wstring file = LogNameFile(dataFolder, LogName);
         const std::uint32_t capacity = *dwValue;
         Result result = NorvXMLGetValueBuffer(file.c_str(), ParametersSection, parameter, Value, dwValue);

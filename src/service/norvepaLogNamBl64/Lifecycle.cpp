@@ -3,13 +3,12 @@
 #include "frame/FileNames.h"
 #include "norvepa.h"
 #include "notify/SendNotification.h"
+#include "service/AccessTest.h"
 #include "service/norvepaLogNamBl64/norvepaLogNamBl64.h"
 #include "store/norvxml.h"
 
 #include <windows.h>
-#include <io.h>
 
-#include <cerrno>
 #include <string>
 
 using namespace norvepa;
@@ -74,31 +73,6 @@ int32_t LogNameDeleteBL(const wchar_t* LogName)
     });
 }
 
-namespace
-{
-
-bool IsAccessMode(int32_t flag)
-{
-    return flag == 0 || flag == 2 || flag == 4 || flag == 6;
-}
-
-Result ResultOfAccess(errno_t error)
-{
-    switch (error)
-    {
-    case 0:
-        return PGSP_OK;
-    case ENOENT:
-        return PGSP_ERR_FILE_NOT_FOUND;
-    case EACCES:
-        return PGSP_ERR_ACCESS_DENIED;
-    default:
-        return PGSP_ERR_INVALID_PARAMETERS;
-    }
-}
-
-} // namespace
-
 int32_t LogNameExistBL(const wchar_t* LogName, int32_t flag)
 {
     return RunExport("LogNameExistBL: ", [&](const ExportFrame& frame) {
@@ -118,11 +92,8 @@ int32_t LogNameExistBL(const wchar_t* LogName, int32_t flag)
             return frame.FolderNotFound("Can not get ProgramData Path");
         }
 
-        std::wstring file = LogNameFile(dataFolder, escaped);
+        const std::wstring file = LogNameFile(dataFolder, escaped);
         NORV_TRACE(frame, TraceInfo, "Calling _waccess_s for LogName: %s", TraceToAnsi(file.c_str()));
-        ExtendByAnywhereRule(file);
-        const errno_t error = _waccess_s(file.c_str(), flag);
-        NORV_TRACE(frame, TraceExit, "<< errno_t err = %d", error);
-        return ResultOfAccess(error);
+        return TestAccess(frame, file, flag);
     });
 }

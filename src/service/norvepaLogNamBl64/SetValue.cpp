@@ -25,7 +25,7 @@ int32_t LogNameSetValueBL(const wchar_t* LogName, const wchar_t* Parameter, cons
         }
 
         // No word is protected and nothing is checked against the catalogue; the type is always the string.
-        const wchar_t* const parameter = IsMissing(Parameter) ? DefaultParameter : Parameter;
+        const wchar_t* const parameter = ParameterOrDefault(Parameter);
         const std::wstring file = LogNameFile(dataFolder, LogName);
         const Result result = NorvXMLSetValue(file.c_str(), ParametersSection, parameter, Value, L"string");
         if (result == PGSP_OK)

@@ -15,9 +15,6 @@ namespace norvepa
 // All values of a log name stand in this one section.
 inline constexpr wchar_t ParametersSection[] = L"Parameters";
 
-// The parameter that is meant when a caller names none. That of log devices is another.
-inline constexpr wchar_t DefaultParameter[] = L"(default)";
-
 // The folder word of notifications.
 inline constexpr wchar_t LogNamesWord[] = L"LogNames";
 
@@ -35,5 +32,9 @@ inline constexpr wchar_t LogNamesWord[] = L"LogNames";
 // One value of one log name, with the frame's checks, traces and codes; both names are required.
 [[nodiscard]] Result PGSP_LogNameGetValue(const wchar_t* LogName, const wchar_t* Parameter,
                                           std::wstring* Value);
+
+// Who holds the lock of a log name: PGSP_OK nobody, PGSP_LOCKED_BY_THIS_THREAD, PGSP_LOCKED_BY_OTHER_THREAD.
+// PGSP_ERR_INVALID_PARAMETERS, PGSP_ERR_FOLDER_NOT_FOUND. The lock word is the callers' own business.
+[[nodiscard]] Result PGSP_LogDeviceLink_bIsLockedBL(const wchar_t* LogName);
 
 } // namespace norvepa

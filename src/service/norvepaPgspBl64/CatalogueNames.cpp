@@ -1,0 +1,88 @@
+#include "frame/Text.h"
+#include "service/norvepaPgspBl64/norvepaPgspBl64.h"
+
+#include <array>
+
+namespace norvepa
+{
+
+namespace
+{
+
+struct ProfileRow
+{
+    std::wstring_view word;
+    std::wstring_view number;
+};
+
+constexpr std::array<ProfileRow, 4> ProfileWords{{
+    {L"DP", L"0"},
+    {L"Std", L"1"},
+    {L"Uni", L"2"},
+    {L"User", L"3"},
+}};
+
+// Anywhere in the name, in exact case.
+bool HoldsPrefix(std::wstring_view name, std::wstring_view prefix)
+{
+    return name.find(prefix) != std::wstring_view::npos;
+}
+
+std::wstring WithPrefix(std::wstring_view name, std::wstring_view prefix)
+{
+    std::wstring whole(HoldsPrefix(name, prefix) ? std::wstring_view{} : prefix);
+    whole += name;
+    return whole;
+}
+
+std::wstring_view WithoutStar(std::wstring_view name)
+{
+    return name.substr(name.starts_with(L'*') ? 1 : 0);
+}
+
+} // namespace
+
+std::wstring MakeBoardNameTestFirst(std::wstring_view board)
+{
+    return HoldsPrefix(board, BoardPrefix) ? std::wstring(board)
+                                           : WithPrefix(WithoutStar(board), BoardPrefix);
+}
+
+std::wstring MakeBoardNameStripFirst(std::wstring_view board)
+{
+    return WithPrefix(WithoutStar(board), BoardPrefix);
+}
+
+std::wstring MakeProtocolName(std::wstring_view protocol)
+{
+    return WithPrefix(protocol, ProtocolPrefix);
+}
+
+std::wstring MapProfileWord(std::wstring_view profile)
+{
+    for (const ProfileRow& row : ProfileWords)
+    {
+        if (EqualNoCase(row.word, profile))
+        {
+            return std::wstring(row.number);
+        }
+    }
+    return std::wstring(profile);
+}
+
+std::wstring CatalogueFolder(std::wstring_view programFolder, std::wstring_view folder)
+{
+    return MakeStoreFolder(programFolder, L"meta", folder);
+}
+
+std::wstring BoardFile(std::wstring_view programFolder, std::wstring_view name)
+{
+    return JoinPath(CatalogueFolder(programFolder, BoardsWord), name);
+}
+
+std::wstring ProtocolFile(std::wstring_view programFolder, std::wstring_view name)
+{
+    return JoinPath(CatalogueFolder(programFolder, ProtocolsWord), name);
+}
+
+} // namespace norvepa

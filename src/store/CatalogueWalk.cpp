@@ -1,0 +1,118 @@
+#include "store/CatalogueWalk.h"
+
+#include "frame/StoreLocations.h"
+#include "frame/Text.h"
+#include "store/PullWalk.h"
+#include "store/norvxml.h"
+
+namespace norvepa
+{
+
+std::wstring CatalogueFile(const wchar_t* filePath)
+{
+    std::wstring file(filePath);
+    ExtendByAnywhereRule(file);
+    return file;
+}
+
+bool IsParamSectionOf(PullReader& reader, std::wstring_view param)
+{
+    std::wstring met;
+    return XmlGetAttribute(reader, L"Param", met) && EqualNoCase(met, param);
+}
+
+bool SeekParamSection(PullReader& reader, std::wstring_view param)
+{
+    while (SeekSection(reader, L"ParamSection"))
+    {
+        if (IsParamSectionOf(reader, param))
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
+Result LoadCatalogue(const std::wstring& file, Document& document)
+{
+    if (FAILED(document.Create()))
+    {
+        return PGSP_ERR_CANT_CREATE_XML_ENGINE;
+    }
+    if (const Result result = CheckFileSize(file); result != PGSP_OK)
+    {
+        return result;
+    }
+    return document.Load(file) ? PGSP_OK : PGSP_ERR_CANT_LOAD_XML_FILE;
+}
+
+bool IsParamSectionOf(const Node& node, std::wstring_view param)
+{
+    if (!node.IsNamed(L"ParamSection"))
+    {
+        return false;
+    }
+    const Node attribute = node.Attribute(L"Param");
+    return attribute && EqualNoCase(attribute.Text().view(), param);
+}
+
+bool IsEntry(const Node& node)
+{
+    return node.IsNamed(L"Parameter") || node.IsNamed(L"ParameterInt") || node.IsNamed(L"ParameterBool");
+}
+
+Node ChildNamed(const Node& parent, std::wstring_view name)
+{
+    for (const Node& child : parent.Children())
+    {
+        if (child.IsNamed(name))
+        {
+            return child;
+        }
+    }
+    return {};
+}
+
+std::vector<Node> ValueSections(const Node& parameterSection, std::wstring_view param)
+{
+    std::vector<Node> sections;
+    for (const Node& collection : parameterSection.Children())
+    {
+        if (!collection.IsNamed(L"ValueCollection"))
+        {
+            continue;
+        }
+        for (const Node& section : collection.Children())
+        {
+            if (IsParamSectionOf(section, param))
+            {
+                sections.push_back(section);
+            }
+        }
+    }
+    return sections;
+}
+
+std::wstring ConstraintKey(std::wstring_view parameter)
+{
+    return JoinPath(L"Constraints", parameter);
+}
+
+std::wstring ConstraintKey(std::wstring_view parameter, std::wstring_view value)
+{
+    return JoinPath(ConstraintKey(parameter), value);
+}
+
+std::wstring ConstraintKey(std::wstring_view parameter, std::wstring_view value,
+                           std::wstring_view subParameter, std::wstring_view subValue)
+{
+    return JoinPath(JoinPath(ConstraintKey(parameter, value), subParameter), subValue);
+}
+
+const cEpaBlElement* ElementAt(const cEpaBlElement& root, std::wstring_view path)
+{
+    const cEpaBlElement* found = nullptr;
+    return WalkPath(root, path, found) == PGSP_OK ? found : nullptr;
+}
+
+} // namespace norvepa

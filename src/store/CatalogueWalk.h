@@ -1,0 +1,49 @@
+#pragma once
+
+// What the walks over catalogue files have in common: the path, the sections, the elements that hold a value.
+
+#include "frame/Result.h"
+#include "meta/cEpaBlElement.h"
+#include "xml/Document.h"
+#include "xml/PullReader.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvepa
+{
+
+// A path as catalogue queries take it: the extension added by the anywhere rule, the name not escaped.
+[[nodiscard]] std::wstring CatalogueFile(const wchar_t* filePath);
+
+// Pull: true at the `ParamSection` last entered when its `Param` is this one.
+[[nodiscard]] bool IsParamSectionOf(PullReader& reader, std::wstring_view param);
+
+// Pull: on to the next `ParamSection` of this `Param`, at any depth. False when the file has ended.
+[[nodiscard]] bool SeekParamSection(PullReader& reader, std::wstring_view param);
+
+// Document: the file loaded, without a word in the trace about a failure. PGSP_ERR_CANT_CREATE_XML_ENGINE,
+// PGSP_ERR_FILE_NOT_FOUND, PGSP_ERR_CANT_LOAD_XML_FILE.
+[[nodiscard]] Result LoadCatalogue(const std::wstring& file, Document& document);
+
+// Document: `ParamSection` of this `Param`; `Parameter`, `ParameterInt` or `ParameterBool`.
+[[nodiscard]] bool IsParamSectionOf(const Node& node, std::wstring_view param);
+[[nodiscard]] bool IsEntry(const Node& node);
+
+// Document: the first child of this name; empty when there is none.
+[[nodiscard]] Node ChildNamed(const Node& parent, std::wstring_view name);
+
+// Document: the sections of the values with this `Param` in the collections of a parameter's section.
+[[nodiscard]] std::vector<Node> ValueSections(const Node& parameterSection, std::wstring_view param);
+
+// Tree: the path of a value below a parameter, and below a parameter of that value.
+[[nodiscard]] std::wstring ConstraintKey(std::wstring_view parameter);
+[[nodiscard]] std::wstring ConstraintKey(std::wstring_view parameter, std::wstring_view value);
+[[nodiscard]] std::wstring ConstraintKey(std::wstring_view parameter, std::wstring_view value,
+                                         std::wstring_view subParameter, std::wstring_view subValue);
+
+// Tree: the element at a path; null when there is none or the path is too long.
+[[nodiscard]] const cEpaBlElement* ElementAt(const cEpaBlElement& root, std::wstring_view path);
+
+} // namespace norvepa
