@@ -10,8 +10,13 @@
 namespace norvctl
 {
 
-void AddNameCommands(CLI::App& app, const Report& report); // name list, show, create, delete, get, set, unset
-void AddWatchCommand(CLI::App& app, const Report& report); // watch
+void AddDeviceCommands(CLI::App& app, const Report& report); // device list, show, get, set, unset
+void AddNameCommands(CLI::App& app, const Report& report);   // name list, show, create, delete, get, set,
+                                                             // unset, link, unlink
+void AddBoardCommands(CLI::App& app, const Report& report);  // board list, show, values, get
+void AddProtocolCommands(CLI::App& app,
+                         const Report& report);              // protocol list, show, profiles, baudrates, get
+void AddWatchCommand(CLI::App& app, const Report& report);   // watch
 void AddTraceCommands(CLI::App& app, const Report& report);  // trace status, on, off
 void AddVersionCommand(CLI::App& app, const Report& report); // version
 

@@ -1,10 +1,10 @@
+#include "Changes.h"
 #include "Commands.h"
+#include "Reads.h"
 #include "Result.h"
 #include "Text.h"
-#include "WatchEvents.h"
 #include "norvepa.h"
 
-#include <array>
 #include <fmt/format.h>
 #include <memory>
 #include <string>
@@ -17,10 +17,6 @@ namespace
 {
 
 constexpr wchar_t FolderWord[] = L"LogNames";
-
-// What the parameters of a log name mean that have a fixed meaning.
-constexpr std::array<const char*, 6> KnownParameters{"LogDevice", "CP_TYPE",   "enable_delete",
-                                                     "hidden",    "(default)", "LOCKED_BY_THREAD_POINTER"};
 
 struct Arguments
 {
@@ -35,33 +31,13 @@ std::string Subject(const Arguments& arguments)
                                        : fmt::format("{}, {}", arguments.name, arguments.parameter);
 }
 
-// The value, or the code for why there is none.
-struct ReadResult
-{
-    int32_t result;
-    std::string value;
-};
-
 ReadResult Read(const Arguments& arguments)
 {
     const std::wstring name = ToWide(arguments.name);
     const std::wstring parameter = ToWide(arguments.parameter);
-    std::wstring value(256, L'\0');
-    for (;;)
-    {
-        auto length = static_cast<uint32_t>(value.size() + 1); // the string's own terminator is room, too
-        const int32_t result = LogNameGetValueBL(name.c_str(), parameter.c_str(), value.data(), &length);
-        const bool grows = result == PGSP_ERR_BUFFER_TOO_SHORT && length > value.size();
-        if (result != PGSP_OK && !grows)
-        {
-            return {result, {}};
-        }
-        value.resize(length);
-        if (result == PGSP_OK)
-        {
-            return {PGSP_OK, ToUtf8(value)};
-        }
-    }
+    return ReadText([&](wchar_t* value, uint32_t* length) {
+        return LogNameGetValueBL(name.c_str(), parameter.c_str(), value, length);
+    });
 }
 
 void Require(int32_t result, const Arguments& arguments)
@@ -74,58 +50,41 @@ void Require(int32_t result, const Arguments& arguments)
 
 std::vector<std::string> AllNames()
 {
-    std::vector<std::string> names;
-    std::wstring name(MAX_PATH, L'\0');
-    for (uint32_t index = 0;; ++index)
-    {
-        auto length = static_cast<uint32_t>(name.size());
-        const int32_t result = LogNameGetEnumBL(index, name.data(), &length);
-        if (result == PGSP_ERR_NO_MORE_ITEMS)
-        {
-            return names;
-        }
-        if (result != PGSP_OK)
-        {
-            throw Failure("the log names", result);
-        }
-        names.push_back(ToUtf8(std::wstring_view(name).substr(0, length)));
-    }
+    return EnumerateTexts("the log names", [](uint32_t index, wchar_t* name, uint32_t* length) {
+        return LogNameGetEnumBL(index, name, length);
+    });
 }
 
 void List(const Report& report)
 {
-    std::string text;
+    std::vector<std::string> lines;
     Json document = Json::array();
     for (const std::string& name : AllNames())
     {
         const std::string device = Read({name, "LogDevice", {}}).value;
         const std::string type = Read({name, "CP_TYPE", {}}).value;
-        text +=
-            fmt::format("{:<32} {:<24} {}\n", name, device.empty() ? "-" : device, type.empty() ? "-" : type);
+        lines.push_back(
+            fmt::format("{:<32} {:<24} {}", name, device.empty() ? "-" : device, type.empty() ? "-" : type));
         document.push_back({{"name", name}, {"logDevice", device}, {"type", type}});
     }
-    if (!text.empty())
-    {
-        text.pop_back();
-    }
-    report.Answer(text, document);
+    report.Answer(AsLines(lines), document);
 }
 
 void Show(const Report& report, const Arguments& arguments)
 {
-    Require(LogNameExistBL(ToWide(arguments.name).c_str(), 0), arguments);
+    const std::wstring name = ToWide(arguments.name);
+    Require(LogNameExistBL(name.c_str(), 0), arguments);
+    const auto values =
+        EnumeratePairs(arguments.name, [&](uint32_t index, wchar_t* parameter, uint32_t* parameterLength,
+                                           wchar_t* value, uint32_t* valueLength) {
+            return LogNameGetEnumValueBL(name.c_str(), index, parameter, parameterLength, value, valueLength);
+        });
     std::string text = arguments.name;
-    Json values = Json::object();
-    for (const char* const parameter : KnownParameters)
+    for (const NameAndValue& pair : values)
     {
-        const ReadResult read = Read({arguments.name, parameter, {}});
-        if (read.result == PGSP_OK)
-        {
-            text += fmt::format("\n  {:<28} {}", parameter, read.value);
-            values[parameter] = read.value;
-        }
+        text += fmt::format("\n  {:<28} {}", pair.name, pair.value);
     }
-    report.Answer(text, {{"name", arguments.name}, {"values", values}});
+    report.Answer(text, {{"name", arguments.name}, {"values", AsObject(values)}});
 }
 
 void Get(const Report& report, const Arguments& arguments)
@@ -143,47 +102,69 @@ void Done(const Report& report, const Arguments& arguments, const char* what)
                   {{"done", what}, {"name", arguments.name}, {"parameter", arguments.parameter}});
 }
 
+// A change that always is one, and what has been done then.
+void Change(const Report& report, const Arguments& arguments, const std::function<int32_t()>& change,
+            const char* done)
+{
+    MakeChange(FolderWord, ToWide(arguments.name), [&] { Require(change(), arguments); });
+    Done(report, arguments, done);
+}
+
 void Create(const Report& report, const Arguments& arguments)
 {
-    const std::wstring name = ToWide(arguments.name);
-    const Announcement announcement(FolderWord, name);
-    Require(LogNameCreateBL(name.c_str()), arguments);
-    announcement.Wait();
-    Done(report, arguments, "created");
+    const auto create = [&] { return LogNameCreateBL(ToWide(arguments.name).c_str()); };
+    Change(report, arguments, create, "created");
 }
 
 void Delete(const Report& report, const Arguments& arguments)
 {
-    const std::wstring name = ToWide(arguments.name);
-    const Announcement announcement(FolderWord, name);
-    Require(LogNameDeleteBL(name.c_str()), arguments);
-    announcement.Wait();
-    Done(report, arguments, "deleted");
-}
-
-void Set(const Report& report, const Arguments& arguments)
-{
-    const std::wstring name = ToWide(arguments.name);
-    const std::wstring value = ToWide(arguments.value);
-    const ReadResult before = Read(arguments);
-    const Announcement announcement(FolderWord, name);
-    Require(LogNameSetValueBL(name.c_str(), ToWide(arguments.parameter).c_str(), value.c_str()), arguments);
-    const ReadResult after = Read(arguments);
-    const bool differs = before.result != after.result || before.value != after.value;
-    const bool isKnownSame = !differs && after.result == PGSP_OK;
-    // What can't be read, as an empty value, may have changed all the same: then it has been announced.
-    const bool announced = !isKnownSame && announcement.Wait();
-    const bool changed = differs || announced;
-    Done(report, arguments, changed ? "set" : "unchanged");
+    const auto remove = [&] { return LogNameDeleteBL(ToWide(arguments.name).c_str()); };
+    Change(report, arguments, remove, "deleted");
 }
 
 void Unset(const Report& report, const Arguments& arguments)
 {
-    const std::wstring name = ToWide(arguments.name);
-    const Announcement announcement(FolderWord, name);
-    Require(LogNameDelValueBL(name.c_str(), ToWide(arguments.parameter).c_str()), arguments);
-    announcement.Wait();
-    Done(report, arguments, "unset");
+    const auto unset = [&] {
+        return LogNameDelValueBL(ToWide(arguments.name).c_str(), ToWide(arguments.parameter).c_str());
+    };
+    Change(report, arguments, unset, "unset");
+}
+
+// A change that may turn out to be none.
+void ChangeValue(const Report& report, const Arguments& arguments, const std::function<int32_t()>& change,
+                 const char* done)
+{
+    const bool changed = MakesDifference(
+        FolderWord, ToWide(arguments.name), [&] { return Read(arguments); },
+        [&] { Require(change(), arguments); });
+    Done(report, arguments, changed ? done : "unchanged");
+}
+
+void Set(const Report& report, const Arguments& arguments)
+{
+    const auto set = [&] {
+        return LogNameSetValueBL(ToWide(arguments.name).c_str(), ToWide(arguments.parameter).c_str(),
+                                 ToWide(arguments.value).c_str());
+    };
+    ChangeValue(report, arguments, set, "set");
+}
+
+void LinkTo(const Report& report, const Arguments& arguments, const char* done)
+{
+    const auto link = [&] {
+        return LogNameSetLogDeviceBL(ToWide(arguments.name).c_str(), ToWide(arguments.value).c_str());
+    };
+    ChangeValue(report, {arguments.name, "LogDevice", arguments.value}, link, done);
+}
+
+void Link(const Report& report, const Arguments& arguments)
+{
+    LinkTo(report, arguments, "linked");
+}
+
+void Unlink(const Report& report, const Arguments& arguments)
+{
+    LinkTo(report, {arguments.name, {}, {}}, "unlinked");
 }
 
 using Action = void (*)(const Report&, const Arguments&);
@@ -225,6 +206,10 @@ void AddNameCommands(CLI::App& app, const Report& report)
     AddVerb(*name, report, "unset", "remove one value", arguments, &Unset)
         .add_option("PARAMETER", arguments->parameter, "the parameter")
         ->required();
+    AddVerb(*name, report, "link", "link one to a log device", arguments, &Link)
+        .add_option("DEVICE", arguments->value, "the log device")
+        ->required();
+    AddVerb(*name, report, "unlink", "take its link away", arguments, &Unlink);
 }
 
 } // namespace norvctl

@@ -80,4 +80,9 @@ Failure::Failure(const std::string& subject, int32_t result)
 {
 }
 
+Failure::Failure(const std::string& subject, int32_t result, const std::string& more)
+    : std::runtime_error(fmt::format("{}: {}: {}", subject, InWords(result), more))
+{
+}
+
 } // namespace norvctl

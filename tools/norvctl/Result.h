@@ -17,6 +17,7 @@ class Failure : public std::runtime_error
 {
 public:
     Failure(const std::string& subject, int32_t result);
+    Failure(const std::string& subject, int32_t result, const std::string& more); // "...: allowed are ..."
 };
 
 } // namespace norvctl

@@ -21,7 +21,10 @@ int main()
     app.add_flag("--json", report.json, "answer with one JSON document");
     app.fallthrough();
 
+    norvctl::AddDeviceCommands(app, report);
     norvctl::AddNameCommands(app, report);
+    norvctl::AddBoardCommands(app, report);
+    norvctl::AddProtocolCommands(app, report);
     norvctl::AddWatchCommand(app, report);
     norvctl::AddTraceCommands(app, report);
     norvctl::AddVersionCommand(app, report);

@@ -1,0 +1,22 @@
+#pragma once
+
+// A value that is set, and whether that made a difference.
+
+#include "Reads.h"
+
+#include <functional>
+#include <string>
+
+namespace norvctl
+{
+
+// Makes a change of a value in a file of a folder word, and waits until the watches have been told of it.
+// `read` answers the value; `change` throws when it is refused. True when the value is another than before.
+[[nodiscard]] bool MakesDifference(const std::wstring& folder, const std::wstring& file,
+                                   const std::function<ReadResult()>& read,
+                                   const std::function<void()>& change);
+
+// The same for a change that always is one.
+void MakeChange(const std::wstring& folder, const std::wstring& file, const std::function<void()>& change);
+
+} // namespace norvctl

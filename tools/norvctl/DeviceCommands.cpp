@@ -1,0 +1,205 @@
+#include "Changes.h"
+#include "Commands.h"
+#include "Reads.h"
+#include "Refusal.h"
+#include "Result.h"
+#include "Text.h"
+#include "norvepa.h"
+
+#include <algorithm>
+#include <cwctype>
+#include <fmt/format.h>
+#include <memory>
+
+namespace norvctl
+{
+
+namespace
+{
+
+constexpr wchar_t FolderWord[] = L"LogDevices";
+
+struct Arguments
+{
+    std::string device;
+    std::string parameter;
+    std::string value;
+    std::string section;
+    std::string type;
+    std::string boardId;
+};
+
+std::string Subject(const Arguments& arguments)
+{
+    return arguments.parameter.empty() ? arguments.device
+                                       : fmt::format("{}, {}", arguments.device, arguments.parameter);
+}
+
+// The file that a change of this name changes: a subdevice stands in that of its device.
+std::wstring FileOf(const std::string& name)
+{
+    const std::wstring device = ToWide(name);
+    std::wstring lower = device;
+    std::transform(lower.begin(), lower.end(), lower.begin(),
+                   [](wchar_t character) { return static_cast<wchar_t>(std::towlower(character)); });
+    return device.substr(0, lower.find(L"\\subdevices\\"));
+}
+
+ReadResult Read(const std::string& device, const std::string& parameter)
+{
+    const std::wstring name = ToWide(device);
+    const std::wstring asked = ToWide(parameter);
+    return ReadText([&](wchar_t* value, uint32_t* length) {
+        return LogDeviceGetValueBL(name.c_str(), asked.c_str(), value, length);
+    });
+}
+
+// Of log devices that have a unit, those of a board come from the index of the library.
+std::vector<std::string> NamesOfBoard(const std::string& boardId)
+{
+    const std::wstring id = ToWide(boardId);
+    std::vector<std::string> names;
+    for (const NameAndValue& pair :
+         EnumeratePairs("the log devices", [&](uint32_t index, wchar_t*name, uint32_t*nameLength,
+                                               wchar_t*unit, uint32_t*unitLength) {
+             return LogDeviceGetEnumByDeviceIdBL(id.c_str(), index, name, nameLength, unit, unitLength);
+         }))
+    {
+        names.push_back(pair.name);
+    }
+    return names;
+}
+
+std::vector<std::string> NamesOfType(const std::string& type)
+{
+    const std::wstring filter = ToWide(type);
+    return EnumerateTexts("the log devices", [&](uint32_t index, wchar_t* name, uint32_t* length) {
+        return LogDeviceGetEnumBL(filter.empty() ? nullptr : filter.c_str(), index, name, length);
+    });
+}
+
+void List(const Report& report, const Arguments& arguments)
+{
+    std::vector<std::string> lines;
+    Json document = Json::array();
+    const auto names =
+        arguments.boardId.empty() ? NamesOfType(arguments.type) : NamesOfBoard(arguments.boardId);
+    for (const std::string& name : names)
+    {
+        const std::string type = Read(name, "CP_TYPE").value;
+        const std::string board = Read(name, "DeviceID").value;
+        const std::string unit = Read(name, "Unit").value;
+        lines.push_back(fmt::format("{:<28} {:<10} {:<12} {}", name, type, board, unit));
+        document.push_back({{"name", name}, {"type", type}, {"deviceId", board}, {"unit", unit}});
+    }
+    report.Answer(AsLines(lines), document);
+}
+
+void Show(const Report& report, const Arguments& arguments)
+{
+    const std::wstring name = ToWide(arguments.device);
+    const auto values = EnumeratePairs(arguments.device, [&](uint32_t index, wchar_t* parameter,
+                                                             uint32_t* parameterLength, wchar_t* value,
+                                                             uint32_t* valueLength) {
+        return LogDeviceGetEnumValueBL(name.c_str(), index, parameter, parameterLength, value, valueLength);
+    });
+    report.Answer(AsLines(values), {{"device", arguments.device}, {"values", AsObject(values)}});
+}
+
+void Get(const Report& report, const Arguments& arguments)
+{
+    const std::wstring name = ToWide(arguments.device);
+    const std::wstring section = ToWide(arguments.section);
+    const std::wstring parameter = ToWide(arguments.parameter);
+    const ReadResult read = arguments.section.empty()
+                                ? Read(arguments.device, arguments.parameter)
+                                : ReadText([&](wchar_t* value, uint32_t* length) {
+                                      return LogDeviceGetValueExBL(name.c_str(), section.c_str(),
+                                                                   parameter.c_str(), value, length);
+                                  });
+    if (read.result != PGSP_OK)
+    {
+        throw Failure(Subject(arguments), read.result);
+    }
+    report.Answer(read.value, {{"device", arguments.device},
+                               {"parameter", arguments.parameter.empty() ? "default" : arguments.parameter},
+                               {"value", read.value}});
+}
+
+void Done(const Report& report, const Arguments& arguments, const char* what)
+{
+    report.Answer(fmt::format("{} {}", what, Subject(arguments)),
+                  {{"done", what}, {"device", arguments.device}, {"parameter", arguments.parameter}});
+}
+
+void SetOrExplain(const Arguments& arguments)
+{
+    const std::wstring device = ToWide(arguments.device);
+    const std::wstring parameter = ToWide(arguments.parameter);
+    const int32_t result =
+        LogDeviceSetValueBL(device.c_str(), parameter.c_str(), ToWide(arguments.value).c_str());
+    if (result == PGSP_OK)
+    {
+        return;
+    }
+    const std::string allowed = AllowedValues(device, parameter, result);
+    throw allowed.empty() ? Failure(Subject(arguments), result)
+                          : Failure(Subject(arguments), result, allowed);
+}
+
+void Set(const Report& report, const Arguments& arguments)
+{
+    const bool changed = MakesDifference(
+        FolderWord, FileOf(arguments.device), [&] { return Read(arguments.device, arguments.parameter); },
+        [&] { SetOrExplain(arguments); });
+    Done(report, arguments, changed ? "set" : "unchanged");
+}
+
+void Unset(const Report& report, const Arguments& arguments)
+{
+    MakeChange(FolderWord, FileOf(arguments.device), [&] {
+        const int32_t result =
+            LogDeviceDelValueBL(ToWide(arguments.device).c_str(), ToWide(arguments.parameter).c_str());
+        if (result != PGSP_OK)
+        {
+            throw Failure(Subject(arguments), result);
+        }
+    });
+    Done(report, arguments, "unset");
+}
+
+} // namespace
+
+void AddDeviceCommands(CLI::App& app, const Report& report)
+{
+    CLI::App* const device = app.add_subcommand("device", "log devices: the access paths");
+    device->require_subcommand(1);
+    const auto arguments = std::make_shared<Arguments>();
+    const auto addVerb = [&](const char* verb, const char* help, auto action) {
+        CLI::App* const command = device->add_subcommand(verb, help);
+        command->add_option("DEVICE", arguments->device, "the log device, or DEVICE\\subdevices\\SUB")
+            ->required();
+        command->callback([=, &report] { action(report, *arguments); });
+        return command;
+    };
+
+    CLI::App* const list =
+        device->add_subcommand("list", "list them with protocol, board and unit; hidden ones are left out");
+    CLI::Option* const type = list->add_option("--type", arguments->type, "only of this CP_TYPE");
+    list->add_option("--by-id", arguments->boardId, "only of the board with this DeviceID")->excludes(type);
+    list->callback([=, &report] { List(report, *arguments); });
+
+    addVerb("show", "print all values of one", &Show);
+    CLI::App* const get = addVerb("get", "print one value", &Get);
+    get->add_option("PARAMETER", arguments->parameter, "the parameter; without it, \"default\"");
+    get->add_option("--section", arguments->section, "from this section, and without defaults");
+    CLI::App* const set = addVerb("set", "set one value, if the catalogue allows it", &Set);
+    set->add_option("PARAMETER", arguments->parameter, "the parameter")->required();
+    set->add_option("VALUE", arguments->value, "the value; min, max and default stand for the catalogue's")
+        ->required();
+    addVerb("unset", "remove one value", &Unset)
+        ->add_option("PARAMETER", arguments->parameter, "the parameter")
+        ->required();
+}
+
+} // namespace norvctl

@@ -1,0 +1,145 @@
+#include "Reads.h"
+
+#include "Result.h"
+#include "Text.h"
+#include "norvepa.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+
+namespace norvctl
+{
+
+namespace
+{
+
+constexpr std::size_t FirstCapacity = 1024; // characters; lists need 260 at least
+
+// Calls with a buffer that grows for as long as the answer doesn't fit; its final size is the answer's.
+int32_t CallWithRoom(const std::function<int32_t(wchar_t*, uint32_t*)>& call, std::vector<wchar_t>& buffer)
+{
+    buffer.resize(FirstCapacity);
+    for (;;)
+    {
+        auto length = static_cast<uint32_t>(buffer.size());
+        const int32_t result = call(buffer.data(), &length);
+        if (result != PGSP_ERR_BUFFER_TOO_SHORT || length < buffer.size())
+        {
+            buffer.resize(result == PGSP_OK ? length : 0);
+            return result;
+        }
+        buffer.resize(std::size_t{length} + 1);
+    }
+}
+
+// Past the last item, or no list at all: nothing to enumerate either way.
+bool IsEnd(int32_t result)
+{
+    return result == PGSP_ERR_NO_MORE_ITEMS || result == PGSP_ERR_PARAM_NOT_FOUND;
+}
+
+} // namespace
+
+ReadResult ReadText(const std::function<int32_t(wchar_t*, uint32_t*)>& read)
+{
+    std::vector<wchar_t> buffer;
+    const int32_t result = CallWithRoom(read, buffer);
+    return {result, ToUtf8({buffer.data(), buffer.size()})};
+}
+
+std::vector<std::string> ReadTexts(const std::string& subject,
+                                   const std::function<int32_t(wchar_t*, uint32_t*)>& read)
+{
+    std::vector<wchar_t> buffer;
+    const int32_t result = CallWithRoom(read, buffer);
+    if (result != PGSP_OK)
+    {
+        throw Failure(subject, result);
+    }
+    std::vector<std::string> texts;
+    const auto end = buffer.empty() ? buffer.end() : buffer.end() - 1; // the terminator behind the last
+    for (auto at = buffer.begin(); at < end;)
+    {
+        const auto stop = std::find(at, end, L'\0');
+        texts.push_back(ToUtf8({&*at, static_cast<std::size_t>(stop - at)}));
+        at = stop + 1;
+    }
+    return texts;
+}
+
+std::vector<std::string> EnumerateTexts(const std::string& subject,
+                                        const std::function<int32_t(uint32_t, wchar_t*, uint32_t*)>& read)
+{
+    std::vector<std::string> texts;
+    for (uint32_t index = 0;; ++index)
+    {
+        const ReadResult item =
+            ReadText([&](wchar_t* text, uint32_t* length) { return read(index, text, length); });
+        if (IsEnd(item.result))
+        {
+            return texts;
+        }
+        if (item.result != PGSP_OK)
+        {
+            throw Failure(subject, item.result);
+        }
+        texts.push_back(item.value);
+    }
+}
+
+std::vector<NameAndValue> EnumeratePairs(const std::string& subject, const ReadPair& read)
+{
+    std::vector<NameAndValue> pairs;
+    std::vector<wchar_t> name(FirstCapacity);
+    std::vector<wchar_t> value(FirstCapacity);
+    for (uint32_t index = 0;;)
+    {
+        auto nameLength = static_cast<uint32_t>(name.size());
+        auto valueLength = static_cast<uint32_t>(value.size());
+        const int32_t result = read(index, name.data(), &nameLength, value.data(), &valueLength);
+        if (IsEnd(result))
+        {
+            return pairs;
+        }
+        const bool grows = nameLength >= name.size() || valueLength >= value.size();
+        if (result == PGSP_ERR_BUFFER_TOO_SHORT && grows)
+        {
+            name.resize(std::max<std::size_t>(name.size(), nameLength + 1));
+            value.resize(std::max<std::size_t>(value.size(), valueLength + 1));
+            continue;
+        }
+        if (result != PGSP_OK)
+        {
+            throw Failure(subject, result);
+        }
+        pairs.push_back({ToUtf8({name.data(), nameLength}), ToUtf8({value.data(), valueLength})});
+        ++index;
+    }
+}
+
+std::string AsLines(const std::vector<NameAndValue>& pairs)
+{
+    std::vector<std::string> lines;
+    for (const NameAndValue& pair : pairs)
+    {
+        lines.push_back(fmt::format("{:<28} {}", pair.name, pair.value));
+    }
+    return AsLines(lines);
+}
+
+Json AsObject(const std::vector<NameAndValue>& pairs)
+{
+    Json object = Json::object();
+    for (const NameAndValue& pair : pairs)
+    {
+        object[pair.name] = pair.value;
+    }
+    return object;
+}
+
+std::string AsLines(const std::vector<std::string>& texts)
+{
+    return fmt::format("{}", fmt::join(texts, "\n"));
+}
+
+} // namespace norvctl
