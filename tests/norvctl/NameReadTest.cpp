@@ -68,10 +68,13 @@ TEST_F(NorvctlNameShow, TellsWhatIsKnownOfAName)
 
     EXPECT_EQ(end.exitCode, 0U);
     EXPECT_EQ(end.output, "Leitwarte\n"
+                          "  enable_delete                true\n"
                           "  LogDevice                    Leitwarte\n"
                           "  CP_TYPE                      TCPIP\n"
-                          "  enable_delete                true\n"
-                          "  (default)                    \u00DCbersicht Auental\n");
+                          "  (default)                    \u00DCbersicht Auental\n"
+                          "  Station                      Bedienplatz 1\n"
+                          "  Bereich                      Leitwarte\n"
+                          "  CP_TYPE                      TCPIP\n");
 }
 
 TEST_F(NorvctlNameShow, ShowsHiddenNamesToo)

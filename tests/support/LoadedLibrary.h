@@ -50,19 +50,51 @@ private:
 // The exports with the types that the public header gives them: one line for each.
 struct Exports : LoadedLibrary
 {
+    decltype(&::LogDeviceDelValueBL) LogDeviceDelValueBL = Find("LogDeviceDelValueBL");
+    decltype(&::LogDeviceExistBL) LogDeviceExistBL = Find("LogDeviceExistBL");
+    decltype(&::LogDeviceGetEnumBL) LogDeviceGetEnumBL = Find("LogDeviceGetEnumBL");
+    decltype(&::LogDeviceGetEnumByDeviceIdBL) LogDeviceGetEnumByDeviceIdBL =
+        Find("LogDeviceGetEnumByDeviceIdBL");
+    decltype(&::LogDeviceGetEnumValueBL) LogDeviceGetEnumValueBL = Find("LogDeviceGetEnumValueBL");
+    decltype(&::LogDeviceGetValueBL) LogDeviceGetValueBL = Find("LogDeviceGetValueBL");
+    decltype(&::LogDeviceGetValueExBL) LogDeviceGetValueExBL = Find("LogDeviceGetValueExBL");
+    decltype(&::LogDeviceGetValueListBL) LogDeviceGetValueListBL = Find("LogDeviceGetValueListBL");
+    decltype(&::LogDeviceSetValueBL) LogDeviceSetValueBL = Find("LogDeviceSetValueBL");
     decltype(&::LogNameCreateBL) LogNameCreateBL = Find("LogNameCreateBL");
     decltype(&::LogNameDelValueBL) LogNameDelValueBL = Find("LogNameDelValueBL");
     decltype(&::LogNameDeleteBL) LogNameDeleteBL = Find("LogNameDeleteBL");
     decltype(&::LogNameExistBL) LogNameExistBL = Find("LogNameExistBL");
     decltype(&::LogNameGetEnumBL) LogNameGetEnumBL = Find("LogNameGetEnumBL");
+    decltype(&::LogNameGetEnumValueBL) LogNameGetEnumValueBL = Find("LogNameGetEnumValueBL");
     decltype(&::LogNameGetLogDeviceBL) LogNameGetLogDeviceBL = Find("LogNameGetLogDeviceBL");
     decltype(&::LogNameGetValueBL) LogNameGetValueBL = Find("LogNameGetValueBL");
+    decltype(&::LogNameGetValueListBL) LogNameGetValueListBL = Find("LogNameGetValueListBL");
+    decltype(&::LogNameSetLogDeviceBL) LogNameSetLogDeviceBL = Find("LogNameSetLogDeviceBL");
     decltype(&::LogNameSetValueBL) LogNameSetValueBL = Find("LogNameSetValueBL");
-
+    decltype(&::NorvepaBl64x_deinit) NorvepaBl64x_deinit = Find("NorvepaBl64x_deinit");
+    decltype(&::PGSP_BoardGetEnumValueBL) PGSP_BoardGetEnumValueBL = Find("PGSP_BoardGetEnumValueBL");
+    decltype(&::PGSP_BoardGetNotSupportedBL) PGSP_BoardGetNotSupportedBL =
+        Find("PGSP_BoardGetNotSupportedBL");
+    decltype(&::PGSP_BoardGetValueBL) PGSP_BoardGetValueBL = Find("PGSP_BoardGetValueBL");
+    decltype(&::PGSP_BoardGetValueCollectionBL) PGSP_BoardGetValueCollectionBL =
+        Find("PGSP_BoardGetValueCollectionBL");
+    decltype(&::PGSP_BoardGetValueListBL) PGSP_BoardGetValueListBL = Find("PGSP_BoardGetValueListBL");
+    decltype(&::PGSP_BoardGetValueRawBL) PGSP_BoardGetValueRawBL = Find("PGSP_BoardGetValueRawBL");
+    decltype(&::PGSP_GetLogDeviceListBL) PGSP_GetLogDeviceListBL = Find("PGSP_GetLogDeviceListBL");
+    decltype(&::PGSP_GetLogNameListBL) PGSP_GetLogNameListBL = Find("PGSP_GetLogNameListBL");
+    decltype(&::PGSP_ProtocolGetEnumBaudrateBL) PGSP_ProtocolGetEnumBaudrateBL =
+        Find("PGSP_ProtocolGetEnumBaudrateBL");
+    decltype(&::PGSP_ProtocolGetEnumBusprofilesBL) PGSP_ProtocolGetEnumBusprofilesBL =
+        Find("PGSP_ProtocolGetEnumBusprofilesBL");
+    decltype(&::PGSP_ProtocolGetEnumValueBL) PGSP_ProtocolGetEnumValueBL =
+        Find("PGSP_ProtocolGetEnumValueBL");
+    decltype(&::PGSP_ProtocolGetValueBL) PGSP_ProtocolGetValueBL = Find("PGSP_ProtocolGetValueBL");
+    decltype(&::PGSP_ProtocolGetValueRawBL) PGSP_ProtocolGetValueRawBL = Find("PGSP_ProtocolGetValueRawBL");
+    decltype(&::PGSP_TemplateGetEnumNoPrefixBL) PGSP_TemplateGetEnumNoPrefixBL =
+        Find("PGSP_TemplateGetEnumNoPrefixBL");
+    decltype(&::PGSP_TemplateGetListBL) PGSP_TemplateGetListBL = Find("PGSP_TemplateGetListBL");
     decltype(&::RegisterNotification) RegisterNotification = Find("RegisterNotification");
     decltype(&::UnRegisterNotification) UnRegisterNotification = Find("UnRegisterNotification");
-
-    decltype(&::NorvepaBl64x_deinit) NorvepaBl64x_deinit = Find("NorvepaBl64x_deinit");
 };
 
 } // namespace norvepa::test
