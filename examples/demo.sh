@@ -12,6 +12,20 @@ run() {
 # For a call that is meant to be refused: its failure is part of the show.
 refused() { run "$@" && { echo 'was not refused' >&2 && exit 1; } || true; }
 
+# A watch in the background, of which show_changes tells what it has printed.
+watch_changes() { # FOLDER COUNT
+    watched=$(mktemp)
+    in_wine "$bin/norvctl.exe" watch "$1" --count "$2" --timeout 30 >"$watched" &
+    watcher=$!
+    until grep -q watching "$watched"; do sleep 0.1; done
+}
+show_changes() {
+    wait "$watcher"
+    echo 'what the watch has printed:'
+    cat "$watched"
+    rm "$watched"
+}
+
 say 'The library that answers'
 run norvctl version
 
@@ -32,10 +46,7 @@ refused norvctl name get 'Kessel#1' NoSuchParameter
 refused norvctl name get 'No such name'
 
 say 'A log name is made, changed and removed, while a watch in another process is told of each change'
-watched=$(mktemp)
-in_wine "$bin/norvctl.exe" watch LogNames --count 5 --timeout 30 >"$watched" &
-watcher=$!
-until grep -q watching "$watched"; do sleep 0.1; done
+watch_changes LogNames 5
 run norvctl name create 'Mischer Süd #2'
 run norvctl name set 'Mischer Süd #2' LogDevice 'Rührwerk Nord'
 run norvctl name set 'Mischer Süd #2' Drehzahl '1450 min⁻¹ (Ω-Bremse)'
@@ -45,10 +56,40 @@ refused norvctl name set 'Mischer Süd #2' Drehzahl '<schnell>'
 run norvctl name unset 'Mischer Süd #2' Drehzahl
 run norvctl name list
 run norvctl name delete 'Mischer Süd #2'
-wait "$watcher"
-echo 'what the watch has printed:'
-cat "$watched"
-rm "$watched"
+show_changes
+
+say 'What the catalogue says: boards, protocols, and what a parameter may hold'
+run norvctl board list
+run norvctl protocol list
+run norvctl protocol show L2 ttr
+run norvctl protocol baudrates L2 --profile 1
+run norvctl board values '*AFK220' NotSupported
+
+say 'The log devices of this machine'
+run norvctl device list
+run norvctl device list --type mpi
+run norvctl device list --by-id AFK110
+
+say 'A baud rate is set, while a watch in another process is told'
+watch_changes LogDevices 1
+run norvctl device get Kesselhaus baudrate
+run norvctl device set Kesselhaus baudrate 187500
+run norvctl device get Kesselhaus baudrate
+show_changes
+
+say 'Values that the catalogue does not allow are refused, and the file stays what it was'
+file="$store/data/data/LogDevices/Kesselhaus.xml"
+before=$(sha256sum <"$file")
+refused norvctl device set Kesselhaus baudrate 12345
+refused norvctl device set Kesselhaus ttr 255
+refused norvctl device set Kesselhaus watchdog 15
+[[ $(sha256sum <"$file") == "$before" ]]
+echo 'Kesselhaus.xml is byte for byte what it was'
+
+say 'A log name is linked to a log device, unless another thread holds its lock'
+refused norvctl name link Wartung Kesselhaus
+run norvctl name link Lagerhaus Kesselhaus
+run norvctl name show Lagerhaus
 
 say 'Tracing is switched off again; what the first calls have left'
 run norvctl trace off
