@@ -23,8 +23,8 @@ namespace norvepa
 // Pull: on to the next `ParamSection` of this `Param`, at any depth. False when the file has ended.
 [[nodiscard]] bool SeekParamSection(PullReader& reader, std::wstring_view param);
 
-// Document: the file loaded, without a word in the trace about a failure. PGSP_ERR_CANT_CREATE_XML_ENGINE,
-// PGSP_ERR_FILE_NOT_FOUND, PGSP_ERR_CANT_LOAD_XML_FILE.
+// Document: the file loaded; unlike the writers' load, only the size guard has a word for the trace.
+// PGSP_ERR_CANT_CREATE_XML_ENGINE, PGSP_ERR_FILE_NOT_FOUND, PGSP_ERR_CANT_LOAD_XML_FILE.
 [[nodiscard]] Result LoadCatalogue(const std::wstring& file, Document& document);
 
 // Document: `ParamSection` of this `Param`; `Parameter`, `ParameterInt` or `ParameterBool`.

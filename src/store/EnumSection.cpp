@@ -77,7 +77,8 @@ Result EnumSectionEntries(const wchar_t* filePath, const wchar_t* parameter, std
 
     std::shared_ptr<const Answer> answer;
     const auto collect = [&](const cEpaBlElement& root) { return GetSectionEntries(root, parameter); };
-    Result result = FindOrCollect(CatalogueFile(filePath), parameter, AnswerKind::Section, collect, answer);
+    const Result result =
+        FindOrCollect(CatalogueFile(filePath), parameter, AnswerKind::Section, collect, answer);
     if (result != PGSP_OK)
     {
         return result;

@@ -44,6 +44,7 @@ public:
     XmlContent& Text(std::wstring_view name, std::wstring_view value); // Parameter
     XmlContent& Int(std::wstring_view name, std::wstring_view value);  // ParameterInt
     XmlContent& Bool(std::wstring_view name, std::wstring_view value); // ParameterBool
+    XmlContent& Entry(std::wstring_view element, std::wstring_view name, std::wstring_view value);
 
     // Any element: sections, and all that has no function of its own. An empty one has two tags.
     XmlContent& Element(std::wstring_view name, const XmlContent& content);
@@ -69,7 +70,6 @@ public:
     [[nodiscard]] const std::string& utf8() const { return m_utf8; }
 
 private:
-    XmlContent& Entry(std::wstring_view element, std::wstring_view name, std::wstring_view value);
     XmlContent& LinkElement(std::wstring_view element, const Link& link);
 
     std::string m_utf8;

@@ -76,6 +76,10 @@ void Values(const Report& report, const Arguments& arguments)
         // All but the last terminator had room: the result is then that of the enumeration's end.
         return result == PGSP_ERR_NO_MORE_ITEMS ? PGSP_ERR_BUFFER_TOO_SHORT : result;
     });
+    if (values.empty())
+    {
+        static_cast<void>(Enumerate(arguments.board)); // the list of a board that isn't there is empty, too
+    }
     report.Answer(AsLines(values),
                   {{"board", arguments.board}, {"collection", arguments.collection}, {"values", values}});
 }

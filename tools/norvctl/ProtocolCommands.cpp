@@ -76,6 +76,11 @@ void Show(const Report& report, const Arguments& arguments)
                                                wide.subValue.c_str(), index, name, nameLength, value,
                                                valueLength);
         });
+    if (pairs.empty() && !arguments.parameter.empty())
+    {
+        throw Failure(fmt::format("{}, {}", arguments.protocol, arguments.parameter),
+                      PGSP_ERR_PARAM_NOT_FOUND);
+    }
     report.Answer(
         AsLines(pairs),
         {{"protocol", arguments.protocol}, {"parameter", arguments.parameter}, {"values", AsObject(pairs)}});
