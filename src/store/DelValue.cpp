@@ -79,14 +79,10 @@ Result NorvXMLDelValue(const wchar_t* filePath, const wchar_t* section, const wc
     {
         return result;
     }
-    Document document;
-    if (const Result result = CreateDocument(source, document); result != PGSP_OK)
-    {
-        return result;
-    }
     std::wstring file = escaped;
     ExtendByAnywhereRule(file);
-    if (const Result result = LoadDocument(source, file, document); result != PGSP_OK)
+    Document document;
+    if (const Result result = OpenDocument(source, file, document); result != PGSP_OK)
     {
         return result;
     }

@@ -10,6 +10,26 @@
 namespace norvepa
 {
 
+namespace
+{
+
+Result LoadDocument(const TraceSource& source, const std::wstring& file, Document& document)
+{
+    if (const Result result = CheckFileSize(file); result != PGSP_OK)
+    {
+        return result;
+    }
+    if (!document.Load(file))
+    {
+        NORV_TRACE(source, TraceEntry, "<< Return PGSP_ERR_CANT_LOAD_XML_FILE (%s)",
+                   TraceToAnsi(file.c_str()));
+        return PGSP_ERR_CANT_LOAD_XML_FILE;
+    }
+    return PGSP_OK;
+}
+
+} // namespace
+
 Result CreateDocument(const TraceSource& source, Document& document)
 {
     if (FAILED(document.Create()))
@@ -20,12 +40,29 @@ Result CreateDocument(const TraceSource& source, Document& document)
     return PGSP_OK;
 }
 
+Result OpenDocument(const TraceSource& source, const std::wstring& file, Document& document)
+{
+    const Result result = CreateDocument(source, document);
+    return result == PGSP_OK ? LoadDocument(source, file, document) : result;
+}
+
 ComForOneCall::~ComForOneCall()
 {
     if (m_ours)
     {
         CoUninitialize();
     }
+}
+
+Result ComForOneCall::OpenDocument(const TraceSource& source, const std::wstring& file, Document& document)
+{
+    if (const Result result = CreateDocument(source, document); result != PGSP_OK)
+    {
+        return result;
+    }
+    const Result result = LoadDocument(source, file, document);
+    m_ours = m_ours && result == PGSP_OK;
+    return result;
 }
 
 Result ComForOneCall::CreateDocument(const TraceSource& source, Document& document)
@@ -42,21 +79,6 @@ Result ComForOneCall::CreateDocument(const TraceSource& source, Document& docume
     }
     NORV_TRACE(source, TraceInfo, "ERROR : CreateInstance");
     return PGSP_ERR_CANT_CREATE_XML_ENGINE;
-}
-
-Result LoadDocument(const TraceSource& source, const std::wstring& file, Document& document)
-{
-    if (const Result result = CheckFileSize(file); result != PGSP_OK)
-    {
-        return result;
-    }
-    if (!document.Load(file))
-    {
-        NORV_TRACE(source, TraceEntry, "<< Return PGSP_ERR_CANT_LOAD_XML_FILE (%s)",
-                   TraceToAnsi(file.c_str()));
-        return PGSP_ERR_CANT_LOAD_XML_FILE;
-    }
-    return PGSP_OK;
 }
 
 Node ValueOfEntry(const Node& entry, std::wstring_view parameter)

@@ -17,9 +17,13 @@ namespace norvepa
 // PGSP_OK, or PGSP_ERR_CANT_CREATE_XML_ENGINE with its trace.
 [[nodiscard]] Result CreateDocument(const TraceSource& source, Document& document);
 
-// COM for a call that may come on a thread without it, and the document that needs it: when there is no
-// engine for want of COM, COM is initialised and the engine asked for once more. What was initialised ends
-// with the object, which has to outlive the document, unless it was told to stay.
+// The engine, the size guard and the load: PGSP_ERR_CANT_CREATE_XML_ENGINE, PGSP_ERR_FILE_NOT_FOUND,
+// PGSP_ERR_CANT_LOAD_XML_FILE.
+[[nodiscard]] Result OpenDocument(const TraceSource& source, const std::wstring& file, Document& document);
+
+// COM for a call that may come on a thread without it: when there is no engine for want of COM, COM is
+// initialised and the engine asked for once more. What was initialised ends with the object, which has to
+// outlive the document; but a call that fails to load its file leaves its thread initialised.
 class ComForOneCall
 {
 public:
@@ -28,17 +32,15 @@ public:
     ComForOneCall& operator=(const ComForOneCall&) = delete;
     ~ComForOneCall();
 
-    [[nodiscard]] Result CreateDocument(const TraceSource& source, Document& document);
-
-    // Leaves the thread initialised, as the calls that fail to load their file do.
-    void Stay() noexcept { m_ours = false; }
+    // As the function above.
+    [[nodiscard]] Result OpenDocument(const TraceSource& source, const std::wstring& file,
+                                      Document& document);
 
 private:
+    [[nodiscard]] Result CreateDocument(const TraceSource& source, Document& document);
+
     bool m_ours = false;
 };
-
-// The size guard and the load: PGSP_ERR_FILE_NOT_FOUND, PGSP_ERR_CANT_LOAD_XML_FILE.
-[[nodiscard]] Result LoadDocument(const TraceSource& source, const std::wstring& file, Document& document);
 
 // The `Value` of an entry whose `Name`, ahead of it, is the parameter's; empty when it isn't this entry.
 [[nodiscard]] Node ValueOfEntry(const Node& entry, std::wstring_view parameter);

@@ -93,13 +93,8 @@ Result NorvXMLSetHeaderValue(const wchar_t* filePath, const wchar_t* parameter, 
 
     ComForOneCall com;
     Document document;
-    if (const Result result = com.CreateDocument(source, document); result != PGSP_OK)
+    if (const Result result = com.OpenDocument(source, file, document); result != PGSP_OK)
     {
-        return result;
-    }
-    if (const Result result = LoadDocument(source, file, document); result != PGSP_OK)
-    {
-        com.Stay();
         return result;
     }
 

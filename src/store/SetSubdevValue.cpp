@@ -72,11 +72,7 @@ Result NorvXMLSetSubdevValue(const wchar_t* filePath, const wchar_t* subdevName,
     }
 
     Document document;
-    if (const Result result = CreateDocument(source, document); result != PGSP_OK)
-    {
-        return result;
-    }
-    if (const Result result = LoadDocument(source, file, document); result != PGSP_OK)
+    if (const Result result = OpenDocument(source, file, document); result != PGSP_OK)
     {
         return result;
     }
