@@ -3,8 +3,8 @@
 // The index of log devices by the identity of their board, and the rule by which it is dropped.
 //
 // The directory watch may find out that the index is stale while another thread holds it. It doesn't wait:
-// it marks it, and whoever looks next empties it first. So no order of the two locks can block, and no
-// answer is taken from an index while a change is pending.
+// it marks it, and whoever looks next empties it first. So no order of the two locks can block. A change that
+// is met while the index is being made shows in the next answer, not in this one.
 
 #include <atomic>
 #include <map>

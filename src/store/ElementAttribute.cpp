@@ -9,17 +9,22 @@ namespace norvepa
 namespace
 {
 
-bool ReadToRoot(PullReader& reader)
+// The file opened, the reader on its root element.
+Result OpenAtRoot(const wchar_t* filePath, PullReader& reader)
 {
+    if (const Result result = OpenStoreFile(filePath, reader); result != PGSP_OK)
+    {
+        return result;
+    }
     XmlNodeType type = XmlNodeType_None;
     while (reader.Read(type))
     {
         if (type == XmlNodeType_Element)
         {
-            return true;
+            return PGSP_OK;
         }
     }
-    return false;
+    return PGSP_ERR_PARAM_NOT_FOUND;
 }
 
 } // namespace
@@ -33,12 +38,29 @@ Result NorvXMLElementGetAttribute(const wchar_t* filePath, const wchar_t* attrib
 
     value->clear();
     PullReader reader;
-    if (const Result result = OpenStoreFile(filePath, reader); result != PGSP_OK)
+    if (const Result result = OpenAtRoot(filePath, reader); result != PGSP_OK)
     {
         return result;
     }
-    return ReadToRoot(reader) && XmlGetAttribute(reader, attribute, *value) ? PGSP_OK
-                                                                            : PGSP_ERR_PARAM_NOT_FOUND;
+    return XmlGetAttribute(reader, attribute, *value) ? PGSP_OK : PGSP_ERR_PARAM_NOT_FOUND;
+}
+
+Result NorvXMLElementGetAttributes(const wchar_t* filePath, std::initializer_list<AttributeOutput> outputs)
+{
+    for (const AttributeOutput& output : outputs)
+    {
+        output.value->clear();
+    }
+    PullReader reader;
+    if (const Result result = OpenAtRoot(filePath, reader); result != PGSP_OK)
+    {
+        return result;
+    }
+    for (const AttributeOutput& output : outputs)
+    {
+        static_cast<void>(XmlGetAttribute(reader, output.attribute, *output.value));
+    }
+    return PGSP_OK;
 }
 
 Result NorvXMLElementGetAttribute(const wchar_t* filePath, const wchar_t* attribute, wchar_t* buffer,

@@ -16,6 +16,7 @@
 #include "store/BufferForms.h"
 
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 
 namespace norvepa
@@ -26,6 +27,15 @@ namespace norvepa
                                                 std::wstring* value);
 [[nodiscard]] Result NorvXMLElementGetAttribute(const wchar_t* filePath, const wchar_t* attribute,
                                                 wchar_t* buffer, std::uint32_t* length);
+
+// Several of them in one pass. PGSP_OK when there is a root element; what it doesn't have is empty.
+struct AttributeOutput
+{
+    const wchar_t* attribute;
+    std::wstring* value;
+};
+[[nodiscard]] Result NorvXMLElementGetAttributes(const wchar_t* filePath,
+                                                 std::initializer_list<AttributeOutput> outputs);
 
 // Pull, ".xml" added without looking. A word of a parameter's section, ahead of its value collection.
 [[nodiscard]] Result NorvXMLProtocolGetValue(const wchar_t* filePath, const wchar_t* parameter,

@@ -55,14 +55,19 @@ void LogNameTraceScene::Load()
 
 std::vector<std::string> LogNameTraceScene::LinesOf(std::string_view operation) const
 {
+    return LinesTagged(std::string(operation) + ": ");
+}
+
+std::vector<std::string> LogNameTraceScene::LinesTagged(std::string_view tag) const
+{
     m_workers->Await();
-    const std::string tag = std::string(operation) + ":  ";
+    const std::string start = std::string(tag) + " ";
     std::vector<std::string> lines;
     for (const std::string& line : m_lines->read())
     {
-        if (line.compare(TagColumn, tag.size(), tag) == 0)
+        if (line.compare(TagColumn, start.size(), start) == 0)
         {
-            lines.push_back(LevelOf(line) + ": " + line.substr(TagColumn + tag.size()));
+            lines.push_back(LevelOf(line) + ": " + line.substr(TagColumn + start.size()));
         }
     }
     return lines;

@@ -33,6 +33,9 @@ protected:
     // "entry", "warning", "information" and "exit".
     [[nodiscard]] std::vector<std::string> LinesOf(std::string_view operation) const;
 
+    // The same for a tag that isn't an operation's name, a colon and a blank.
+    [[nodiscard]] std::vector<std::string> LinesTagged(std::string_view tag) const;
+
     StoreRoots roots;
 
 private:

@@ -13,8 +13,8 @@ DeviceCatalogue CatalogueOf(const ExportFrame& frame, std::wstring_view dataFold
     const std::wstring file = LogDeviceFile(dataFolder, logDevice);
     std::wstring deviceId;
     std::wstring netType;
-    static_cast<void>(NorvXMLElementGetAttribute(file.c_str(), L"DeviceID", &deviceId));
-    static_cast<void>(NorvXMLElementGetAttribute(file.c_str(), L"CP_TYPE", &netType));
+    static_cast<void>(
+        NorvXMLElementGetAttributes(file.c_str(), {{L"DeviceID", &deviceId}, {L"CP_TYPE", &netType}}));
     NORV_TRACE(frame, TraceInfo, "GetAttribute:   DeviceID=%s   NetType=%s", TraceToAnsi(deviceId.c_str()),
                TraceToAnsi(netType.c_str()));
 

@@ -71,17 +71,17 @@ int32_t LogDeviceGetValueExBL(const wchar_t* LogDevice, const wchar_t* Section, 
             std::wstring text;
             const Result result = NorvXMLGetSubdevValue(LogDeviceFile(dataFolder, name->device).c_str(),
                                                         name->subdevice.c_str(), parameter, &text);
+            NORV_TRACE(frame, TraceInfo, "<< Returned Value = %s, from Subdevice: %s",
+                       TraceToAnsi(text.c_str()), TraceToAnsi(name->subdevice.c_str()));
             return DeliverAnyway(frame, result, text, Value, dwValue);
         }
 
-        const std::uint32_t capacity = *dwValue;
         const Result result =
             ReadParameter(LogDeviceFile(dataFolder, LogDevice), Section, parameter, Value, dwValue);
         if (result == PGSP_OK || result == PGSP_ERR_BUFFER_TOO_SHORT)
         {
             return frame.Return(result);
         }
-        *dwValue = capacity;
         return DeliverAnyway(frame, result, {}, Value, dwValue);
     });
 }

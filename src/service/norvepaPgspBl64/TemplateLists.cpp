@@ -22,6 +22,17 @@ std::vector<std::wstring> AllFiles(const std::wstring& folder)
     return names;
 }
 
+// Step by step from the first name: the listing may change on the way, and what ends it is the answer.
+Result StepToFile(const std::wstring& folder, std::uint32_t index, std::wstring& name)
+{
+    Result result = NorvXMLEnumFile(folder.c_str(), 0, &name);
+    for (std::uint32_t step = 0; result == PGSP_OK && step < index;)
+    {
+        result = NorvXMLEnumFile(folder.c_str(), ++step, &name);
+    }
+    return result;
+}
+
 Result ReturnStoreFiles(const ExportFrame& frame, std::wstring_view folder, wchar_t* buffer,
                         std::uint32_t* length)
 {
@@ -110,7 +121,7 @@ int32_t PGSP_TemplateGetEnumNoPrefixBL(const wchar_t* FolderName, uint32_t index
         const std::wstring folder = CatalogueFolder(programFolder, FolderName);
         NORV_TRACE(frame, TraceInfo, "Enumerating templates from: %s", TraceToAnsi(folder.c_str()));
         std::wstring name;
-        if (const Result result = NorvXMLEnumFile(folder.c_str(), index, &name); result != PGSP_OK)
+        if (const Result result = StepToFile(folder, index, name); result != PGSP_OK)
         {
             return frame.Return(result);
         }
