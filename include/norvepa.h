@@ -34,734 +34,745 @@ extern "C"
 
 /* The result codes. Below 8000 they are the operating system's own numbers for the same situation. */
 #ifdef __cplusplus
-    enum NorvepaResult : int32_t
+enum NorvepaResult : int32_t
 #else
 enum NorvepaResult
 #endif
-    {
-        PGSP_OK = 0,                              /* success */
-        PGSP_ERR_ACCESS_DENIED = 5,               /* an existence test: the file is there, the access isn't */
-        PGSP_ERR_INVALID_PARAMETERS = 87,         /* an argument is missing or malformed */
-        PGSP_ERR_BUFFER_TOO_SHORT = 234,          /* the length now says how long the text is */
-        PGSP_ERR_NO_MORE_ITEMS = 259,             /* the index lies past the last item */
-        PGSP_ERR_LOG_DEVICE_NOT_EXISTS = 8012,    /* the log device's file is missing or can't be loaded */
-        PGSP_ERR_LOG_DEVICE_NOT_DELETABLE = 8030, /* the log device refuses its deletion */
-        PGSP_ERR_NOT_REGISTERED = 8040,           /* no such registration for notification */
-        PGSP_ERR_PARAM_DESC_NOT_FOUND = 8044,     /* the parameter has no description */
-        PGSP_ERR_PARAMETER_DEFAULT_NOT_FOUND = 8046, /* neither the parameter nor a default for it */
-        PGSP_NOT_IN_LIST = 8050,                     /* the value isn't one of those allowed */
-        PGSP_NOT_A_BOOL = 8052,                      /* the value is neither "true" nor "false" */
-        PGSP_SET_VAL_LESS_THAN_MIN = 8054,           /* the value lies under the minimum */
-        PGSP_SET_VAL_BIGGER_THAN_MAX = 8056,         /* the value lies over the maximum */
-        PGSP_NOT_IN_STEP = 8058,                     /* the value lies between two steps */
-        PGSP_PROFILE_NO_VALUE = 8062,                /* the profile has no value for the parameter */
-        PGSP_ERR_CANT_LOAD_DLL = 8101,               /* a resource library can't be loaded */
-        PGSP_CANT_CREATE_TEMP_LOG_DEVICE = 8120,     /* no temporary log device could be made */
-        PGSP_LOCKED_BY_THIS_THREAD = 8202,           /* the lock is held by the calling thread */
-        PGSP_LOCKED_BY_OTHER_THREAD = 8204,          /* the lock is held by another thread */
-        PGSP_ERR_FILE_NOT_FOUND = 8503,              /* the file is absent */
-        PGSP_ERR_FILE_EXISTS = 8504,                 /* the file is there already */
-        PGSP_ERR_CANT_CREATE_XML_ENGINE =
-            8505,                           /* the document engine can't be created: is COM initialised? */
-        PGSP_ERR_INVALID_FILE = 8506,       /* the file doesn't satisfy its schema */
-        PGSP_ERR_CANT_LOAD_XML_FILE = 8508, /* the file can't be opened or parsed, or is too large */
-        PGSP_ERR_CANT_LOAD_SCHEMA = 8509,   /* the schema can't be loaded */
-        PGSP_ERR_CANT_CREATE_FILE = 8510,   /* the file can't be created or saved */
-        PGSP_ERR_CANT_DELETE_FILE = 8511,   /* the file can't be deleted */
-        PGSP_ERR_CANT_COPY_FILE = 8512,     /* the file can't be copied or renamed */
-        PGSP_ERR_PARAM_NOT_FOUND = 8513,    /* the file holds no such parameter, section or item */
-        PGSP_ERR_CANT_SET_VALUE = 8514,     /* neither the parameter nor a section to create it in */
-        PGSP_ERR_SAME_VALUE = 8515,         /* the parameter has this value already */
-        PGSP_ERR_DRIVER_READ = 8516,        /* the log device says nothing of what to load */
-        PGSP_ERR_FOLDER_NOT_FOUND = 8517,   /* the data folder or the program folder can't be found */
-        PGSP_ERR_DUPLICATE_EVENT = 8519,    /* the event is registered already */
-        PGSP_ERR_DRIVER_BUFFER = 8520,      /* a write into the driver's records failed */
-        PGSP_ERR_DRIVER_NO_MEMORY = 8521,   /* the driver's records can't grow */
-        PGSP_ERR_CANT_LOAD_RESOURCE = 8522  /* a resource text can't be loaded */
-    };
+{
+    PGSP_OK = 0,                                 /* success */
+    PGSP_ERR_ACCESS_DENIED = 5,                  /* an existence test: the file is there, the access isn't */
+    PGSP_ERR_INVALID_PARAMETERS = 87,            /* an argument is missing or malformed */
+    PGSP_ERR_BUFFER_TOO_SHORT = 234,             /* the length now says how long the text is */
+    PGSP_ERR_NO_MORE_ITEMS = 259,                /* the index lies past the last item */
+    PGSP_ERR_LOG_DEVICE_NOT_EXISTS = 8012,       /* the log device's file is missing or can't be loaded */
+    PGSP_ERR_LOG_DEVICE_NOT_DELETABLE = 8030,    /* the log device refuses its deletion */
+    PGSP_ERR_NOT_REGISTERED = 8040,              /* no such registration for notification */
+    PGSP_ERR_PARAM_DESC_NOT_FOUND = 8044,        /* the parameter has no description */
+    PGSP_ERR_PARAMETER_DEFAULT_NOT_FOUND = 8046, /* neither the parameter nor a default for it */
+    PGSP_NOT_IN_LIST = 8050,                     /* the value isn't one of those allowed */
+    PGSP_NOT_A_BOOL = 8052,                      /* the value is neither "true" nor "false" */
+    PGSP_SET_VAL_LESS_THAN_MIN = 8054,           /* the value lies under the minimum */
+    PGSP_SET_VAL_BIGGER_THAN_MAX = 8056,         /* the value lies over the maximum */
+    PGSP_NOT_IN_STEP = 8058,                     /* the value lies between two steps */
+    PGSP_PROFILE_NO_VALUE = 8062,                /* the profile has no value for the parameter */
+    PGSP_ERR_CANT_LOAD_DLL = 8101,               /* a resource library can't be loaded */
+    PGSP_CANT_CREATE_TEMP_LOG_DEVICE = 8120,     /* no temporary log device could be made */
+    PGSP_LOCKED_BY_THIS_THREAD = 8202,           /* the lock is held by the calling thread */
+    PGSP_LOCKED_BY_OTHER_THREAD = 8204,          /* the lock is held by another thread */
+    PGSP_ERR_FILE_NOT_FOUND = 8503,              /* the file is absent */
+    PGSP_ERR_FILE_EXISTS = 8504,                 /* the file is there already */
+    PGSP_ERR_CANT_CREATE_XML_ENGINE = 8505,      /* the document engine can't be created: is COM initialised? */
+    PGSP_ERR_INVALID_FILE = 8506,                /* the file doesn't satisfy its schema */
+    PGSP_ERR_CANT_LOAD_XML_FILE = 8508,          /* the file can't be opened or parsed, or is too large */
+    PGSP_ERR_CANT_LOAD_SCHEMA = 8509,            /* the schema can't be loaded */
+    PGSP_ERR_CANT_CREATE_FILE = 8510,            /* the file can't be created or saved */
+    PGSP_ERR_CANT_DELETE_FILE = 8511,            /* the file can't be deleted */
+    PGSP_ERR_CANT_COPY_FILE = 8512,              /* the file can't be copied or renamed */
+    PGSP_ERR_PARAM_NOT_FOUND = 8513,             /* the file holds no such parameter, section or item */
+    PGSP_ERR_CANT_SET_VALUE = 8514,              /* neither the parameter nor a section to create it in */
+    PGSP_ERR_SAME_VALUE = 8515,                  /* the parameter has this value already */
+    PGSP_ERR_DRIVER_READ = 8516,                 /* the log device says nothing of what to load */
+    PGSP_ERR_FOLDER_NOT_FOUND = 8517,            /* the data folder or the program folder can't be found */
+    PGSP_ERR_DUPLICATE_EVENT = 8519,             /* the event is registered already */
+    PGSP_ERR_DRIVER_BUFFER = 8520,               /* a write into the driver's records failed */
+    PGSP_ERR_DRIVER_NO_MEMORY = 8521,            /* the driver's records can't grow */
+    PGSP_ERR_CANT_LOAD_RESOURCE = 8522           /* a resource text can't be loaded */
+};
 
-    /* Log names: named access points, each linked to a log device -------------------------------------- */
+/* Log names: named access points, each linked to a log device -------------------------------------- */
 
-    /*
-     * Makes a log name: a file with the parameter "enable_delete" set to "true".
-     *
-     *   LogName  in  the new log name
-     *
-     * PGSP_OK                          made
-     * PGSP_ERR_INVALID_PARAMETERS      LogName is null
-     * PGSP_ERR_BUFFER_TOO_SHORT        the path has 260 characters or more
-     * PGSP_ERR_FILE_EXISTS             there is such a log name; it is left as it is
-     * PGSP_ERR_CANT_CREATE_FILE        the file can't be created or saved
-     * PGSP_ERR_CANT_CREATE_XML_ENGINE  COM isn't initialised on this thread; an empty file stays behind
-     * PGSP_ERR_FOLDER_NOT_FOUND        the data folder can't be found
-     *
-     * Notifies "LogNames", the log name, when the file is new.
-     */
-    int32_t LogNameCreateBL(const wchar_t* LogName);
+/*
+ * Makes a log name: a file with the parameter "enable_delete" set to "true".
+ *
+ *   LogName  in  the new log name
+ *
+ * PGSP_OK                          made
+ * PGSP_ERR_INVALID_PARAMETERS      LogName is null
+ * PGSP_ERR_BUFFER_TOO_SHORT        the path has 260 characters or more
+ * PGSP_ERR_FILE_EXISTS             there is such a log name; it is left as it is
+ * PGSP_ERR_CANT_CREATE_FILE        the file can't be created or saved
+ * PGSP_ERR_CANT_CREATE_XML_ENGINE  COM isn't initialised on this thread; an empty file stays behind
+ * PGSP_ERR_FOLDER_NOT_FOUND        the data folder can't be found
+ *
+ * Notifies "LogNames", the log name, when the file is new.
+ */
+int32_t LogNameCreateBL(const wchar_t* LogName);
 
-    /*
-     * Removes a log name with all its values, whether or not it is locked.
-     *
-     *   LogName  in  the log name
-     *
-     * PGSP_OK                      removed
-     * PGSP_ERR_INVALID_PARAMETERS  LogName is null
-     * PGSP_ERR_BUFFER_TOO_SHORT    the path has 260 characters or more
-     * PGSP_ERR_CANT_DELETE_FILE    there is no such log name, or its file is in use or protected
-     * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
-     *
-     * Notifies "LogNames", the log name, when it was removed.
-     */
-    int32_t LogNameDeleteBL(const wchar_t* LogName);
+/*
+ * Removes a log name with all its values, whether or not it is locked.
+ *
+ *   LogName  in  the log name
+ *
+ * PGSP_OK                      removed
+ * PGSP_ERR_INVALID_PARAMETERS  LogName is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    the path has 260 characters or more
+ * PGSP_ERR_CANT_DELETE_FILE    there is no such log name, or its file is in use or protected
+ * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
+ *
+ * Notifies "LogNames", the log name, when it was removed.
+ */
+int32_t LogNameDeleteBL(const wchar_t* LogName);
 
-    /*
-     * Tells whether a log name exists and may be used.
-     *
-     *   LogName  in  the log name
-     *   flag     in  what is asked: 0 existence, 2 writing, 4 reading, 6 both
-     *
-     * PGSP_OK                      it does
-     * PGSP_ERR_ACCESS_DENIED       it exists, the access isn't allowed
-     * PGSP_ERR_INVALID_PARAMETERS  LogName is null or empty, flag is another number, or the name makes no
-     * path PGSP_ERR_BUFFER_TOO_SHORT    the escaped name has 260 characters or more PGSP_ERR_FILE_NOT_FOUND
-     * there is no such log name PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
-     *
-     * Notifies nobody.
-     */
-    int32_t LogNameExistBL(const wchar_t* LogName, int32_t flag);
+/*
+ * Tells whether a log name exists and may be used.
+ *
+ *   LogName  in  the log name
+ *   flag     in  what is asked: 0 existence, 2 writing, 4 reading, 6 both
+ *
+ * PGSP_OK                      it does
+ * PGSP_ERR_ACCESS_DENIED       it exists, the access isn't allowed
+ * PGSP_ERR_INVALID_PARAMETERS  LogName is null or empty, flag is another number, or the name makes no path
+ * PGSP_ERR_BUFFER_TOO_SHORT    the escaped name has 260 characters or more
+ * PGSP_ERR_FILE_NOT_FOUND      there is no such log name
+ * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
+ *
+ * Notifies nobody.
+ */
+int32_t LogNameExistBL(const wchar_t* LogName, int32_t flag);
 
-    /*
-     * Enumerates the log names that aren't hidden: ask for index 0, 1, 2 and so on until there are no more.
-     * The order is the folder's; nothing is kept from call to call.
-     *
-     *   index       in      which one, hidden ones not counted
-     *   LogName     out     buffer for the name
-     *   LogNameLen  in/out  its length in characters
-     *
-     * PGSP_OK                      LogName and LogNameLen are set
-     * PGSP_ERR_INVALID_PARAMETERS  LogName or LogNameLen is null
-     * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one, or a name up to it doesn't fit the buffer;
-     *                              LogName and LogNameLen are as they were
-     * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
-     *
-     * Notifies nobody.
-     */
-    int32_t LogNameGetEnumBL(uint32_t index, wchar_t* LogName, uint32_t* LogNameLen);
+/*
+ * Enumerates the log names that aren't hidden: ask for index 0, 1, 2 and so on until there are no more. The
+ * order is the folder's; nothing is kept from call to call.
+ *
+ *   index       in      which one, hidden ones not counted
+ *   LogName     out     buffer for the name
+ *   LogNameLen  in/out  its length in characters
+ *
+ * PGSP_OK                      LogName and LogNameLen are set
+ * PGSP_ERR_INVALID_PARAMETERS  LogName or LogNameLen is null
+ * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one, or a name up to it doesn't fit the buffer;
+ *                              LogName and LogNameLen are as they were
+ * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
+ *
+ * Notifies nobody.
+ */
+int32_t LogNameGetEnumBL(uint32_t index, wchar_t* LogName, uint32_t* LogNameLen);
 
-    /*
-     * Tells which log device a log name stands for. That device need not exist any more.
-     *
-     *   LogName    in      the log name
-     *   LogDevice  out     buffer for the log device's name; empty when the log name is unlinked
-     *   dwValue    in/out  its length in characters
-     *
-     * PGSP_OK                      LogDevice and dwValue are set
-     * PGSP_ERR_INVALID_PARAMETERS  LogName is null or empty, LogDevice or dwValue is null
-     * PGSP_ERR_BUFFER_TOO_SHORT    dwValue says the name's length; also for a path of 260 characters or more
-     * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such log name, or its file can't be opened
-     * PGSP_ERR_PARAM_NOT_FOUND     it has never been linked
-     * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
-     *
-     * Notifies nobody.
-     */
-    int32_t LogNameGetLogDeviceBL(const wchar_t* LogName, wchar_t* LogDevice, uint32_t* dwValue);
+/*
+ * Tells which log device a log name stands for. That device need not exist any more.
+ *
+ *   LogName    in      the log name
+ *   LogDevice  out     buffer for the log device's name; empty when the log name is unlinked
+ *   dwValue    in/out  its length in characters
+ *
+ * PGSP_OK                      LogDevice and dwValue are set
+ * PGSP_ERR_INVALID_PARAMETERS  LogName is null or empty, LogDevice or dwValue is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValue says the name's length; also for a path of 260 characters or more
+ * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such log name, or its file can't be opened
+ * PGSP_ERR_PARAM_NOT_FOUND     it has never been linked
+ * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
+ *
+ * Notifies nobody.
+ */
+int32_t LogNameGetLogDeviceBL(const wchar_t* LogName, wchar_t* LogDevice, uint32_t* dwValue);
 
-    /*
-     * Reads one value of one log name, from its file as it is now. No default is applied.
-     *
-     *   LogName    in      the log name
-     *   Parameter  in      the parameter; null or "" reads the parameter "(default)"
-     *   Value      out     buffer for the value
-     *   dwValue    in/out  length of Value in characters, by the rule above; 0 is a buffer too short
-     *
-     * PGSP_OK                      Value and dwValue are set
-     * PGSP_ERR_INVALID_PARAMETERS  LogName is null or empty, Value or dwValue is null
-     * PGSP_ERR_BUFFER_TOO_SHORT    dwValue says the value's length; also, with dwValue as it was, for a
-     *                              path of 260 characters or more
-     * PGSP_ERR_FILE_NOT_FOUND      there is no such log name, or its file can't be opened
-     * PGSP_ERR_PARAM_NOT_FOUND     it has no such parameter, or its file isn't well-formed up to it
-     * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
-     *
-     * Notifies nobody.
-     */
-    int32_t LogNameGetValueBL(const wchar_t* LogName, const wchar_t* Parameter, wchar_t* Value,
-                              uint32_t* dwValue);
+/*
+ * Reads one value of one log name, from its file as it is now. No default is applied.
+ *
+ *   LogName    in      the log name
+ *   Parameter  in      the parameter; null or "" reads the parameter "(default)"
+ *   Value      out     buffer for the value
+ *   dwValue    in/out  length of Value in characters, by the rule above; 0 is a buffer too short
+ *
+ * PGSP_OK                      Value and dwValue are set
+ * PGSP_ERR_INVALID_PARAMETERS  LogName is null or empty, Value or dwValue is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValue says the value's length; also, with dwValue as it was, for a
+ *                              path of 260 characters or more
+ * PGSP_ERR_FILE_NOT_FOUND      there is no such log name, or its file can't be opened
+ * PGSP_ERR_PARAM_NOT_FOUND     it has no such parameter, or its file isn't well-formed up to it
+ * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
+ *
+ * Notifies nobody.
+ */
+int32_t LogNameGetValueBL(const wchar_t* LogName, const wchar_t* Parameter, wchar_t* Value, uint32_t* dwValue);
 
-    /*
-     * Sets one value of a log name, and adds the parameter when it isn't there. No word is protected.
-     *
-     *   LogName    in  the log name
-     *   Parameter  in  the parameter, without any of  blank []^!"$%&()=?'#+><*|;,  or the section sign or the
-     *                  acute accent; null or "" stands for "(default)", which these rules refuse
-     *   Value      in  the value, without < and >; "" is a value
-     *
-     * PGSP_OK                          set, or set already: a value that differs in case alone is the same
-     * PGSP_ERR_INVALID_PARAMETERS      LogName is null or empty, Value is null, or a character isn't allowed
-     * PGSP_ERR_BUFFER_TOO_SHORT        the path has 260 characters or more
-     * PGSP_ERR_FILE_NOT_FOUND          there is no such log name
-     * PGSP_ERR_CANT_CREATE_XML_ENGINE  the document engine can't be created
-     * PGSP_ERR_CANT_LOAD_XML_FILE      its file is malformed or over 10,000,000 bytes
-     * PGSP_ERR_CANT_SET_VALUE          its file has no section "Parameters"
-     * PGSP_ERR_FOLDER_NOT_FOUND        the data folder can't be found
-     *
-     * Notifies "LogNames", the log name, when the value has changed. COM is initialised for the call where
-     * the thread hasn't; it stays initialised when the file can't be loaded.
-     */
-    int32_t LogNameSetValueBL(const wchar_t* LogName, const wchar_t* Parameter, const wchar_t* Value);
+/*
+ * Sets one value of a log name, and adds the parameter when it isn't there. No word is protected.
+ *
+ *   LogName    in  the log name
+ *   Parameter  in  the parameter, without any of  blank []^!"$%&()=?'#+><*|;,  or the section sign or the
+ *                  acute accent; null or "" stands for "(default)", which these rules refuse
+ *   Value      in  the value, without < and >; "" is a value
+ *
+ * PGSP_OK                          set, or set already: a value that differs in case alone is the same
+ * PGSP_ERR_INVALID_PARAMETERS      LogName is null or empty, Value is null, or a character isn't allowed
+ * PGSP_ERR_BUFFER_TOO_SHORT        the path has 260 characters or more
+ * PGSP_ERR_FILE_NOT_FOUND          there is no such log name
+ * PGSP_ERR_CANT_CREATE_XML_ENGINE  the document engine can't be created
+ * PGSP_ERR_CANT_LOAD_XML_FILE      its file is malformed or over 10,000,000 bytes
+ * PGSP_ERR_CANT_SET_VALUE          its file has no section "Parameters"
+ * PGSP_ERR_FOLDER_NOT_FOUND        the data folder can't be found
+ *
+ * Notifies "LogNames", the log name, when the value has changed. COM is initialised for the call where the
+ * thread hasn't; it stays initialised when the file can't be loaded.
+ */
+int32_t LogNameSetValueBL(const wchar_t* LogName, const wchar_t* Parameter, const wchar_t* Value);
 
-    /*
-     * Removes a parameter of a log name. The result is validated before it takes the file's place.
-     *
-     *   LogName    in  the log name
-     *   Parameter  in  the parameter
-     *
-     * PGSP_OK                          removed
-     * PGSP_ERR_INVALID_PARAMETERS      LogName or Parameter is null or empty
-     * PGSP_ERR_BUFFER_TOO_SHORT        the path has 260 characters or more
-     * PGSP_ERR_FILE_NOT_FOUND          there is no such log name
-     * PGSP_ERR_CANT_CREATE_XML_ENGINE  COM isn't initialised on this thread
-     * PGSP_ERR_INVALID_FILE            the schema doesn't allow it; the log name is as it was
-     * PGSP_ERR_CANT_LOAD_XML_FILE      its file is malformed or over 10,000,000 bytes
-     * PGSP_ERR_CANT_LOAD_SCHEMA        the schema is missing or malformed; the log name is as it was
-     * PGSP_ERR_CANT_DELETE_FILE        its file is in use or protected and stays; the new form stays beside
-     * it PGSP_ERR_PARAM_NOT_FOUND         it has no such parameter PGSP_ERR_FOLDER_NOT_FOUND        the data
-     * folder or the program folder can't be found
-     *
-     * Notifies "LogNames", the log name, when it was removed.
-     */
-    int32_t LogNameDelValueBL(const wchar_t* LogName, const wchar_t* Parameter);
+/*
+ * Removes a parameter of a log name. The result is validated before it takes the file's place.
+ *
+ *   LogName    in  the log name
+ *   Parameter  in  the parameter
+ *
+ * PGSP_OK                          removed
+ * PGSP_ERR_INVALID_PARAMETERS      LogName or Parameter is null or empty
+ * PGSP_ERR_BUFFER_TOO_SHORT        the path has 260 characters or more
+ * PGSP_ERR_FILE_NOT_FOUND          there is no such log name
+ * PGSP_ERR_CANT_CREATE_XML_ENGINE  COM isn't initialised on this thread
+ * PGSP_ERR_INVALID_FILE            the schema doesn't allow it; the log name is as it was
+ * PGSP_ERR_CANT_LOAD_XML_FILE      its file is malformed or over 10,000,000 bytes
+ * PGSP_ERR_CANT_LOAD_SCHEMA        the schema is missing or malformed; the log name is as it was
+ * PGSP_ERR_CANT_DELETE_FILE        its file is in use or protected and stays; the new form stays beside it
+ * PGSP_ERR_PARAM_NOT_FOUND         it has no such parameter
+ * PGSP_ERR_FOLDER_NOT_FOUND        the data folder or the program folder can't be found
+ *
+ * Notifies "LogNames", the log name, when it was removed.
+ */
+int32_t LogNameDelValueBL(const wchar_t* LogName, const wchar_t* Parameter);
 
-    /*
-     * Enumerates the parameters of a log name: ask for index 0, 1, 2 and so on. Arguments and results as
-     * LogDeviceGetEnumValueBL, and PGSP_ERR_FOLDER_NOT_FOUND when the data folder can't be found.
-     */
-    int32_t LogNameGetEnumValueBL(const wchar_t* LogName, uint32_t index, wchar_t* Parameter,
-                                  uint32_t* parLen, wchar_t* Value, uint32_t* valLen);
+/*
+ * Enumerates the parameters of a log name: ask for index 0, 1, 2 and so on. Arguments and results as
+ * LogDeviceGetEnumValueBL, and PGSP_ERR_FOLDER_NOT_FOUND when the data folder can't be found.
+ */
+int32_t LogNameGetEnumValueBL(const wchar_t* LogName, uint32_t index, wchar_t* Parameter, uint32_t* parLen,
+                              wchar_t* Value, uint32_t* valLen);
 
-    /*
-     * Reads several values of a log name at once, or all of them. Arguments and results as
-     * LogDeviceGetValueListBL, but that Section plays no part: a log name has one section. DeviceID and
-     * CP_TYPE are attributes of the root element here, also when there is a parameter of that name.
-     */
-    int32_t LogNameGetValueListBL(const wchar_t* LogName, const wchar_t* Section,
-                                  const wchar_t* ParameterList, int32_t paramListLength, wchar_t* Value,
-                                  uint32_t* dwValue);
+/*
+ * Reads several values of a log name at once, or all of them. Arguments and results as
+ * LogDeviceGetValueListBL, but that Section plays no part: a log name has one section. DeviceID and CP_TYPE are
+ * attributes of the root element here, also when there is a parameter of that name.
+ */
+int32_t LogNameGetValueListBL(const wchar_t* LogName, const wchar_t* Section, const wchar_t* ParameterList,
+                              int32_t paramListLength, wchar_t* Value, uint32_t* dwValue);
 
-    /*
-     * Links a log name to a log device, and copies the log device's CP_TYPE.
-     *
-     *   LogName    in  the log name
-     *   LogDevice  in  the log device; "" unlinks, and CP_TYPE stays as it was
-     *
-     * PGSP_OK                         linked or unlinked, also when it was so already
-     * PGSP_ERR_INVALID_PARAMETERS     LogName is null or empty, or LogDevice is null
-     * PGSP_ERR_LOG_DEVICE_NOT_EXISTS  there is no such log device; nothing has changed
-     * PGSP_LOCKED_BY_OTHER_THREAD     the parameter LOCKED_BY_THREAD_POINTER of the log name holds something
-     * else than the calling thread's id as decimal text; nothing has changed PGSP_ERR_FOLDER_NOT_FOUND the
-     * data folder can't be found and those of LogNameSetValueBL
-     *
-     * Notifies "LogNames", the log name, for each of the two parameters that is another than before.
-     */
-    int32_t LogNameSetLogDeviceBL(const wchar_t* LogName, const wchar_t* LogDevice);
+/*
+ * Links a log name to a log device, and copies the log device's CP_TYPE.
+ *
+ *   LogName    in  the log name
+ *   LogDevice  in  the log device; "" unlinks, and CP_TYPE stays as it was
+ *
+ * PGSP_OK                         linked or unlinked, also when it was so already
+ * PGSP_ERR_INVALID_PARAMETERS     LogName is null or empty, or LogDevice is null
+ * PGSP_ERR_LOG_DEVICE_NOT_EXISTS  there is no such log device; nothing has changed
+ * PGSP_LOCKED_BY_OTHER_THREAD     the parameter LOCKED_BY_THREAD_POINTER of the log name holds something else
+ *                                 than the calling thread's id as decimal text; nothing has changed
+ * PGSP_ERR_FOLDER_NOT_FOUND       the data folder can't be found
+ * and those of LogNameSetValueBL
+ *
+ * Notifies "LogNames", the log name, for each of the two parameters that is another than before.
+ */
+int32_t LogNameSetLogDeviceBL(const wchar_t* LogName, const wchar_t* LogDevice);
 
-    /* Log devices: the configured access paths -----------------------------------------------------------
-     *
-     * A log device names its board by the attribute DeviceID and its protocol by CP_TYPE, and holds
-     * parameters in sections. The board's file, or else the protocol's, says of a parameter where it is
-     * stored, what it may hold and what stands in when it is absent. A subdevice is named
-     * device\subdevices\sub.
-     */
+/* Log devices: the configured access paths -----------------------------------------------------------
+ *
+ * A log device names its board by the attribute DeviceID and its protocol by CP_TYPE, and holds parameters in
+ * sections. The board's file, or else the protocol's, says of a parameter where it is stored, what it may hold
+ * and what stands in when it is absent. A subdevice is named device\subdevices\sub.
+ */
 
-    /*
-     * Enumerates the log devices that are neither hidden nor temporary: ask for index 0, 1, 2 and so on until
-     * there are no more. The order is the folder's; nothing is kept from call to call.
-     *
-     *   lpszNetType   in      only those whose CP_TYPE is this, in any case; null for all
-     *   index         in      which one, of those that pass
-     *   LogDevice     out     buffer for the name
-     *   LogDeviceLen  in/out  its length in characters
-     *
-     * PGSP_OK                      LogDevice and LogDeviceLen are set
-     * PGSP_ERR_INVALID_PARAMETERS  LogDevice or LogDeviceLen is null, or the length is 0
-     * PGSP_ERR_BUFFER_TOO_SHORT    a name up to this one, wanted or not, doesn't fit; the outputs are as they
-     * were PGSP_ERR_NO_MORE_ITEMS       index lies past the last one, or the folder can't be found
-     */
-    int32_t LogDeviceGetEnumBL(const wchar_t* lpszNetType, uint32_t index, wchar_t* LogDevice,
-                               uint32_t* LogDeviceLen);
+/*
+ * Enumerates the log devices that are neither hidden nor temporary: ask for index 0, 1, 2 and so on until
+ * there are no more. The order is the folder's; nothing is kept from call to call.
+ *
+ *   lpszNetType   in      only those whose CP_TYPE is this, in any case; null for all
+ *   index         in      which one, of those that pass
+ *   LogDevice     out     buffer for the name
+ *   LogDeviceLen  in/out  its length in characters
+ *
+ * PGSP_OK                      LogDevice and LogDeviceLen are set
+ * PGSP_ERR_INVALID_PARAMETERS  LogDevice or LogDeviceLen is null, or the length is 0
+ * PGSP_ERR_BUFFER_TOO_SHORT    a name up to this one, wanted or not, doesn't fit; the outputs are as they were
+ * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one, or the folder can't be found
+ */
+int32_t LogDeviceGetEnumBL(const wchar_t* lpszNetType, uint32_t index, wchar_t* LogDevice,
+                           uint32_t* LogDeviceLen);
 
-    /*
-     * Enumerates all parameters of a log device, and at the end the attributes of its root element. Index 0
-     * begins anew; a walk to the end makes the next one see a changed file.
-     *
-     *   LogDevice  in      the log device
-     *   index      in      which one
-     *   Parameter  out     buffer for the name
-     *   parLen     in/out  its length in characters
-     *   Value      out     buffer for the value
-     *   valLen     in/out  its length in characters
-     *
-     * PGSP_OK                      all four are set
-     * PGSP_ERR_INVALID_PARAMETERS  LogDevice is null or empty, an output is null, or a length is 0
-     * PGSP_ERR_BUFFER_TOO_SHORT    a buffer is too small and its length now tells; the name goes first, so a
-     *                              name that doesn't fit leaves Value and valLen as they were
-     * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one
-     * PGSP_ERR_FILE_NOT_FOUND      there is no such log device, or its file can't be read
-     */
-    int32_t LogDeviceGetEnumValueBL(const wchar_t* LogDevice, uint32_t index, wchar_t* Parameter,
-                                    uint32_t* parLen, wchar_t* Value, uint32_t* valLen);
+/*
+ * Enumerates all parameters of a log device, and at the end the attributes of its root element. Index 0 begins
+ * anew; a walk to the end makes the next one see a changed file.
+ *
+ *   LogDevice  in      the log device
+ *   index      in      which one
+ *   Parameter  out     buffer for the name
+ *   parLen     in/out  its length in characters
+ *   Value      out     buffer for the value
+ *   valLen     in/out  its length in characters
+ *
+ * PGSP_OK                      all four are set
+ * PGSP_ERR_INVALID_PARAMETERS  LogDevice is null or empty, an output is null, or a length is 0
+ * PGSP_ERR_BUFFER_TOO_SHORT    a buffer is too small and its length now tells; the name goes first, so a
+ *                              name that doesn't fit leaves Value and valLen as they were
+ * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one
+ * PGSP_ERR_FILE_NOT_FOUND      there is no such log device, or its file can't be read
+ */
+int32_t LogDeviceGetEnumValueBL(const wchar_t* LogDevice, uint32_t index, wchar_t* Parameter,
+                                uint32_t* parLen, wchar_t* Value, uint32_t* valLen);
 
-    /*
-     * Enumerates the log devices of a board, with the parameter Unit of each. The answers come from an index
-     * that is made anew when a log device's file was added, removed or renamed, by whatever process: a Unit
-     * that changes otherwise is seen only then. Log devices without a Unit, hidden and temporary ones aren't
-     * in it.
-     *
-     *   DeviceID      in      the board's identity as the log devices have it, in any case, with the "*" it
-     * may begin with index         in      which one LogDevice     out     buffer for the name LogDeviceLen
-     * in/out  its length in characters Unit          out     buffer for the unit UnitLen       in/out  its
-     * length in characters
-     *
-     * PGSP_OK                      all four are set
-     * PGSP_ERR_INVALID_PARAMETERS  a pointer is null
-     * PGSP_ERR_BUFFER_TOO_SHORT    a buffer is too small and its length now tells; the name goes first, so a
-     * name that doesn't fit leaves Unit and UnitLen as they were PGSP_ERR_NO_MORE_ITEMS       index lies past
-     * the last one, or no log device has this identity
-     */
-    int32_t LogDeviceGetEnumByDeviceIdBL(const wchar_t* DeviceID, uint32_t index, wchar_t* LogDevice,
-                                         uint32_t* LogDeviceLen, wchar_t* Unit, uint32_t* UnitLen);
+/*
+ * Enumerates the log devices of a board, with the parameter Unit of each. The answers come from an index that
+ * is made anew when a log device's file was added, removed or renamed, by whatever process: a Unit that
+ * changes otherwise is seen only then. Log devices without a Unit, hidden and temporary ones aren't in it.
+ *
+ *   DeviceID      in      the board's identity as the log devices have it, in any case, with the "*" it may
+ *                         begin with
+ *   index         in      which one
+ *   LogDevice     out     buffer for the name
+ *   LogDeviceLen  in/out  its length in characters
+ *   Unit          out     buffer for the unit
+ *   UnitLen       in/out  its length in characters
+ *
+ * PGSP_OK                      all four are set
+ * PGSP_ERR_INVALID_PARAMETERS  a pointer is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    a buffer is too small and its length now tells; the name goes first, so a name
+ *                              that doesn't fit leaves Unit and UnitLen as they were
+ * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one, or no log device has this identity
+ */
+int32_t LogDeviceGetEnumByDeviceIdBL(const wchar_t* DeviceID, uint32_t index, wchar_t* LogDevice,
+                                     uint32_t* LogDeviceLen, wchar_t* Unit, uint32_t* UnitLen);
 
-    /*
-     * Tells whether a log device exists and may be used, or whether a subdevice exists.
-     *
-     *   LogDevice  in  the log device, or device\subdevices\sub
-     *   flag       in  what is asked: 0 existence, 2 writing, 4 reading, 6 both; for a subdevice it plays no
-     * part
-     *
-     * PGSP_OK                      it does
-     * PGSP_ERR_ACCESS_DENIED       it exists, the access isn't allowed
-     * PGSP_ERR_INVALID_PARAMETERS  LogDevice is null or empty, flag is another number, or the name makes no
-     * path PGSP_ERR_BUFFER_TOO_SHORT    the escaped name has 260 characters or more PGSP_ERR_FILE_NOT_FOUND
-     * there is no such log device PGSP_ERR_CANT_LOAD_XML_FILE  the log device of the subdevice can't be read
-     * PGSP_ERR_PARAM_NOT_FOUND     the log device has no such subdevice
-     * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
-     */
-    int32_t LogDeviceExistBL(const wchar_t* LogDevice, int32_t flag);
+/*
+ * Tells whether a log device exists and may be used, or whether a subdevice exists.
+ *
+ *   LogDevice  in  the log device, or device\subdevices\sub
+ *   flag       in  what is asked: 0 existence, 2 writing, 4 reading, 6 both; for a subdevice it plays no part
+ *
+ * PGSP_OK                      it does
+ * PGSP_ERR_ACCESS_DENIED       it exists, the access isn't allowed
+ * PGSP_ERR_INVALID_PARAMETERS  LogDevice is null or empty, flag is another number, or the name makes no path
+ * PGSP_ERR_BUFFER_TOO_SHORT    the escaped name has 260 characters or more
+ * PGSP_ERR_FILE_NOT_FOUND      there is no such log device
+ * PGSP_ERR_CANT_LOAD_XML_FILE  the log device of the subdevice can't be read
+ * PGSP_ERR_PARAM_NOT_FOUND     the log device has no such subdevice
+ * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
+ */
+int32_t LogDeviceExistBL(const wchar_t* LogDevice, int32_t flag);
 
-    /*
-     * Reads one value of a log device: of the section and by the name that its catalogue gives for the
-     * parameter, or else of the first section that holds it; where it is absent, the catalogue's default.
-     *
-     *   LogDevice  in      the log device, or a subdevice of it
-     *   Parameter  in      the parameter; null or "" stands for the parameter "default"
-     *   Value      out     buffer for the value
-     *   dwValue    in/out  its length in characters
-     *
-     * PGSP_OK                         Value and dwValue are set
-     * PGSP_ERR_INVALID_PARAMETERS     LogDevice is null or empty, an output is null, or the length is 0
-     * PGSP_ERR_BUFFER_TOO_SHORT       dwValue tells the value's length
-     * PGSP_ERR_LOG_DEVICE_NOT_EXISTS  there is no such log device, or its file can't be read
-     * PGSP_ERR_PARAM_NOT_FOUND        it has no such parameter, and there is no default
-     * PGSP_ERR_FOLDER_NOT_FOUND       the data folder can't be found
-     */
-    int32_t LogDeviceGetValueBL(const wchar_t* LogDevice, const wchar_t* Parameter, wchar_t* Value,
+/*
+ * Reads one value of a log device: of the section and by the name that its catalogue gives for the parameter,
+ * or else of the first section that holds it; where it is absent, the catalogue's default.
+ *
+ *   LogDevice  in      the log device, or a subdevice of it
+ *   Parameter  in      the parameter; null or "" stands for the parameter "default"
+ *   Value      out     buffer for the value
+ *   dwValue    in/out  its length in characters
+ *
+ * PGSP_OK                         Value and dwValue are set
+ * PGSP_ERR_INVALID_PARAMETERS     LogDevice is null or empty, an output is null, or the length is 0
+ * PGSP_ERR_BUFFER_TOO_SHORT       dwValue tells the value's length
+ * PGSP_ERR_LOG_DEVICE_NOT_EXISTS  there is no such log device, or its file can't be read
+ * PGSP_ERR_PARAM_NOT_FOUND        it has no such parameter, and there is no default
+ * PGSP_ERR_FOLDER_NOT_FOUND       the data folder can't be found
+ */
+int32_t LogDeviceGetValueBL(const wchar_t* LogDevice, const wchar_t* Parameter, wchar_t* Value,
+                            uint32_t* dwValue);
+
+/*
+ * Reads one value of a log device from a section. The catalogue isn't asked: no mapped name, no default.
+ *
+ *   LogDevice  in      the log device, or a subdevice of it
+ *   Section    in      the section; null or "" looks into DeviceHeader, LocalSettings, NetworkSettings,
+ *                      Bindings and Ndi in this order
+ *   Parameter  in      the parameter; null or "" stands for the parameter "default"
+ *   Value      out     buffer for the value
+ *   dwValue    in/out  its length in characters
+ *
+ * PGSP_OK                      Value and dwValue are set
+ * PGSP_ERR_INVALID_PARAMETERS  LogDevice is null or empty, an output is null, or the length is 0
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the value's length
+ * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such log device, or its file can't be read; Value is empty, dwValue 0
+ * PGSP_ERR_PARAM_NOT_FOUND     it has no such parameter; Value is empty, dwValue 0. Without a section also when
+ *                              its value is too long and a section behind lacks it
+ * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
+ */
+int32_t LogDeviceGetValueExBL(const wchar_t* LogDevice, const wchar_t* Section, const wchar_t* Parameter,
+                              wchar_t* Value, uint32_t* dwValue);
+
+/*
+ * Reads several values of a log device at once, or all of them. No default stands in.
+ *
+ *   LogDevice        in      the log device
+ *   Section          in      the section; null or "" looks into five of them, as LogDeviceGetValueExBL does
+ *   ParameterList    in      names one behind the other, each with its terminator; null for all parameters,
+ *                            then name and value in turn
+ *   paramListLength  in      its length in characters, the terminators of its names counted; 0 is like null,
+ *                            a negative one is a list without names
+ *   Value            out     buffer for the values in the same order, each with its terminator, and one more
+ *                            behind the last
+ *   dwValue          in/out  its length in characters; out, the characters written with all terminators
+ *
+ * PGSP_OK                      Value and dwValue are set; all of a log device that doesn't exist is an empty list
+ * PGSP_ERR_INVALID_PARAMETERS  LogDevice is null or empty, an output is null, or a named parameter can't be read;
+ *                              the outputs are as they were
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the characters needed, and the buffer's first 260 characters are as
+ *                              they were; or only the last terminator has no room, and dwValue tells what was
+ *                              written
+ * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
+ */
+int32_t LogDeviceGetValueListBL(const wchar_t* LogDevice, const wchar_t* Section,
+                                const wchar_t* ParameterList, int32_t paramListLength, wchar_t* Value,
                                 uint32_t* dwValue);
 
-    /*
-     * Reads one value of a log device from a section. The catalogue isn't asked: no mapped name, no default.
-     *
-     *   LogDevice  in      the log device, or a subdevice of it
-     *   Section    in      the section; null or "" looks into DeviceHeader, LocalSettings, NetworkSettings,
-     *                      Bindings and Ndi in this order
-     *   Parameter  in      the parameter; null or "" stands for the parameter "default"
-     *   Value      out     buffer for the value
-     *   dwValue    in/out  its length in characters
-     *
-     * PGSP_OK                      Value and dwValue are set
-     * PGSP_ERR_INVALID_PARAMETERS  LogDevice is null or empty, an output is null, or the length is 0
-     * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the value's length
-     * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such log device, or its file can't be read; Value is empty,
-     * dwValue 0 PGSP_ERR_PARAM_NOT_FOUND     it has no such parameter, or, without a section, none that fits
-     * but in Ndi, which is looked into last; Value is empty, dwValue 0 PGSP_ERR_FOLDER_NOT_FOUND    the data
-     * folder can't be found
-     */
-    int32_t LogDeviceGetValueExBL(const wchar_t* LogDevice, const wchar_t* Section, const wchar_t* Parameter,
-                                  wchar_t* Value, uint32_t* dwValue);
+/*
+ * Sets a parameter of a log device, once its value has been checked against the catalogue. A parameter that
+ * the catalogue doesn't know takes any value. The words "min", "max" and "default", in any case, stand for the
+ * catalogue's values of an "int" parameter, and those are stored.
+ *
+ *   LogDevice  in  the log device, or a subdevice of it
+ *   Parameter  in  the parameter; null or "" stands for the parameter "default"
+ *   Value      in  the value
+ *
+ * PGSP_OK                          set, or it had this value already
+ * PGSP_ERR_INVALID_PARAMETERS      LogDevice is null or empty, Value is null, or it is malformed for its type
+ * PGSP_ERR_BUFFER_TOO_SHORT        the path has 260 characters or more
+ * PGSP_NOT_IN_LIST                 a baudrate or l4_timeout that isn't one of those allowed
+ * PGSP_NOT_A_BOOL                  neither "true" nor "false"
+ * PGSP_SET_VAL_LESS_THAN_MIN       under the minimum
+ * PGSP_SET_VAL_BIGGER_THAN_MAX     over the maximum
+ * PGSP_NOT_IN_STEP                 off the step
+ * PGSP_ERR_CANT_SET_VALUE          DeviceID and CP_TYPE are never set; or the section isn't there
+ * PGSP_ERR_FILE_NOT_FOUND          there is no such log device
+ * PGSP_ERR_CANT_LOAD_XML_FILE      its file is malformed or over 10,000,000 bytes
+ * PGSP_ERR_CANT_CREATE_XML_ENGINE  there is no document engine; for a subdevice: COM isn't initialised
+ *
+ * A refused value leaves the file as it is. Notifies "LogDevices", the log device, for a subdevice the one that
+ * it belongs to, when the value is another than before.
+ */
+int32_t LogDeviceSetValueBL(const wchar_t* LogDevice, const wchar_t* Parameter, const wchar_t* Value);
 
-    /*
-     * Reads several values of a log device at once, or all of them. No default stands in.
-     *
-     *   LogDevice        in      the log device
-     *   Section          in      the section; null or "" looks into five of them, as LogDeviceGetValueExBL
-     * does ParameterList    in      names one behind the other, each with its terminator; null for all
-     * parameters, then name and value in turn paramListLength  in      its length in characters, the
-     * terminators of its names counted; 0 is like null, a negative one is a list without names Value out
-     * buffer for the values in the same order, each with its terminator, and one more behind the last dwValue
-     * in/out  its length in characters; out, the characters written with all terminators
-     *
-     * PGSP_OK                      Value and dwValue are set; all of a log device that doesn't exist is an
-     * empty list PGSP_ERR_INVALID_PARAMETERS  LogDevice is null or empty, an output is null, or a named
-     * parameter can't be read; the outputs are as they were PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the
-     * characters needed, and the buffer's first 260 characters are as they were; or only the last terminator
-     * has no room, and dwValue tells what was written PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be
-     * found
-     */
-    int32_t LogDeviceGetValueListBL(const wchar_t* LogDevice, const wchar_t* Section,
-                                    const wchar_t* ParameterList, int32_t paramListLength, wchar_t* Value,
-                                    uint32_t* dwValue);
+/*
+ * Removes a parameter of a log device from the section that the catalogue gives for it, and without one from
+ * SpareSection. The result is validated before it takes the file's place.
+ *
+ *   LogDevice  in  the log device
+ *   Parameter  in  the parameter
+ *
+ * Results as LogNameDelValueBL. Notifies "LogDevices", the log device, when it was removed.
+ */
+int32_t LogDeviceDelValueBL(const wchar_t* LogDevice, const wchar_t* Parameter);
 
-    /*
-     * Sets a parameter of a log device, once its value has been checked against the catalogue. A parameter
-     * that the catalogue doesn't know takes any value. The words "min", "max" and "default", in any case,
-     * stand for the catalogue's values of an "int" parameter, and those are stored.
-     *
-     *   LogDevice  in  the log device, or a subdevice of it
-     *   Parameter  in  the parameter; null or "" stands for the parameter "default"
-     *   Value      in  the value
-     *
-     * PGSP_OK                          set, or it had this value already
-     * PGSP_ERR_INVALID_PARAMETERS      LogDevice is null or empty, Value is null, or it is malformed for its
-     * type PGSP_ERR_BUFFER_TOO_SHORT        the path has 260 characters or more PGSP_NOT_IN_LIST a baudrate
-     * or l4_timeout that isn't one of those allowed PGSP_NOT_A_BOOL                  neither "true" nor
-     * "false" PGSP_SET_VAL_LESS_THAN_MIN       under the minimum PGSP_SET_VAL_BIGGER_THAN_MAX     over the
-     * maximum PGSP_NOT_IN_STEP                 off the step PGSP_ERR_CANT_SET_VALUE          DeviceID and
-     * CP_TYPE are never set; or the section isn't there PGSP_ERR_FILE_NOT_FOUND          there is no such log
-     * device PGSP_ERR_CANT_LOAD_XML_FILE      its file is malformed or over 10,000,000 bytes
-     * PGSP_ERR_CANT_CREATE_XML_ENGINE  there is no document engine; for a subdevice: COM isn't initialised
-     *
-     * A refused value leaves the file as it is. Notifies "LogDevices", the log device, for a subdevice the
-     * one that it belongs to, when the value is another than before.
-     */
-    int32_t LogDeviceSetValueBL(const wchar_t* LogDevice, const wchar_t* Parameter, const wchar_t* Value);
+/* Boards: what the catalogue says of communication boards -------------------------------------------
+ *
+ * A board is named by the DeviceID of a log device, with or without a leading "*", by its bare name, or by its
+ * file's name, which begins with "Automation-OnlineAccess-BT-".
+ */
 
-    /*
-     * Removes a parameter of a log device from the section that the catalogue gives for it, and without one
-     * from SpareSection. The result is validated before it takes the file's place.
-     *
-     *   LogDevice  in  the log device
-     *   Parameter  in  the parameter
-     *
-     * Results as LogNameDelValueBL. Notifies "LogDevices", the log device, when it was removed.
-     */
-    int32_t LogDeviceDelValueBL(const wchar_t* LogDevice, const wchar_t* Parameter);
+/*
+ * Enumerates what a board's file holds: ask for index 0, 1, 2 and so on until the result isn't PGSP_OK.
+ *
+ *   Board      in      the board, for all its parameters and then the attributes of its root element;
+ *                      board\ConstraintsWithDefault for the parameters that have a default, with it;
+ *                      board\section for the words of one parameter's section
+ *   index      in      which one
+ *   Parameter  out     buffer for the name
+ *   parLen     in/out  its length in characters
+ *   Value      out     buffer for the value
+ *   valLen     in/out  its length in characters
+ *
+ * PGSP_OK                      all four are set
+ * PGSP_ERR_INVALID_PARAMETERS  Board is null or empty, an output is null, or, without a section, a length is 0
+ * PGSP_ERR_BUFFER_TOO_SHORT    a buffer is too small and its length now tells; the name goes first, so a
+ *                              name that doesn't fit leaves Value and valLen as they were
+ * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one. Without a section the file is read anew then
+ * PGSP_ERR_FILE_NOT_FOUND      there is no such board (without a section)
+ * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such board (with one)
+ * PGSP_ERR_PARAM_NOT_FOUND     the board has no such section, or no constraints
+ * -1                           parLen or valLen is null (with a section)
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_BoardGetEnumValueBL(const wchar_t* Board, uint32_t index, wchar_t* Parameter, uint32_t* parLen,
+                                 wchar_t* Value, uint32_t* valLen);
 
-    /* Boards: what the catalogue says of communication boards -------------------------------------------
-     *
-     * A board is named by the DeviceID of a log device, with or without a leading "*", by its bare name, or
-     * by its file's name, which begins with "Automation-OnlineAccess-BT-".
-     */
+/*
+ * Reads one value of a board: an attribute of its root element, or else a parameter of its section "Install",
+ * or else of "BoardAttributes". A place whose value doesn't fit the buffer is passed over like one without.
+ *
+ *   DeviceID   in      the board
+ *   Parameter  in      the parameter; null or "" stands for "(default)"
+ *   Value      out     buffer for the value
+ *   dwValue    in/out  its length in characters
+ *
+ * PGSP_OK                      Value and dwValue are set
+ * PGSP_ERR_INVALID_PARAMETERS  DeviceID is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    the value of the last place doesn't fit; dwValue tells its length
+ * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such board
+ * PGSP_ERR_PARAM_NOT_FOUND     the board has no such value
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_BoardGetValueBL(const wchar_t* DeviceID, const wchar_t* Parameter, wchar_t* Value,
+                             uint32_t* dwValue);
 
-    /*
-     * Enumerates what a board's file holds: ask for index 0, 1, 2 and so on until the result isn't PGSP_OK.
-     *
-     *   Board      in      the board, for all its parameters and then the attributes of its root element;
-     *                      board\ConstraintsWithDefault for the parameters that have a default, with it;
-     *                      board\section for the words of one parameter's section
-     *   index      in      which one
-     *   Parameter  out     buffer for the name
-     *   parLen     in/out  its length in characters
-     *   Value      out     buffer for the value
-     *   valLen     in/out  its length in characters
-     *
-     * PGSP_OK                      all four are set
-     * PGSP_ERR_INVALID_PARAMETERS  Board is null or empty, an output is null, or, without a section, a length
-     * is 0 PGSP_ERR_BUFFER_TOO_SHORT    a buffer is too small and its length now tells; the name goes first,
-     * so a name that doesn't fit leaves Value and valLen as they were PGSP_ERR_NO_MORE_ITEMS       index lies
-     * past the last one. Without a section the file is read anew then PGSP_ERR_FILE_NOT_FOUND      there is
-     * no such board (without a section) PGSP_ERR_CANT_LOAD_XML_FILE  there is no such board (with one)
-     * PGSP_ERR_PARAM_NOT_FOUND     the board has no such section, or no constraints
-     * -1                           parLen or valLen is null (with a section)
-     * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
-     */
-    int32_t PGSP_BoardGetEnumValueBL(const wchar_t* Board, uint32_t index, wchar_t* Parameter,
-                                     uint32_t* parLen, wchar_t* Value, uint32_t* valLen);
+/*
+ * Reads one value of a board from a place that the caller names.
+ *
+ *   DeviceID       in      the board
+ *   ParameterPath  in      a section, or section\parameter for a word of that parameter's constraints;
+ *                          null or "" reads as PGSP_BoardGetValueBL does
+ *   Parameter      in      the parameter, or the word; null or "" stands for "(default)"
+ *   Value          out     buffer for the value
+ *   dwValue        in/out  its length in characters
+ *
+ * Results as PGSP_BoardGetValueBL.
+ */
+int32_t PGSP_BoardGetValueRawBL(const wchar_t* DeviceID, const wchar_t* ParameterPath,
+                                const wchar_t* Parameter, wchar_t* Value, uint32_t* dwValue);
 
-    /*
-     * Reads one value of a board: an attribute of its root element, or else a parameter of its section
-     * "Install", or else of "BoardAttributes". A place whose value doesn't fit the buffer is passed over like
-     * one without.
-     *
-     *   DeviceID   in      the board
-     *   Parameter  in      the parameter; null or "" stands for "(default)"
-     *   Value      out     buffer for the value
-     *   dwValue    in/out  its length in characters
-     *
-     * PGSP_OK                      Value and dwValue are set
-     * PGSP_ERR_INVALID_PARAMETERS  DeviceID is null or empty, or an output is null
-     * PGSP_ERR_BUFFER_TOO_SHORT    the value of the last place doesn't fit; dwValue tells its length
-     * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such board
-     * PGSP_ERR_PARAM_NOT_FOUND     the board has no such value
-     * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
-     */
-    int32_t PGSP_BoardGetValueBL(const wchar_t* DeviceID, const wchar_t* Parameter, wchar_t* Value,
-                                 uint32_t* dwValue);
+/*
+ * Reads several values of a board at once: all of them, or none.
+ *
+ *   DeviceID  in      the board
+ *   Names     in      names one behind the other, each with its terminator. "DeviceID" and "CP_TYPE" are
+ *                     attributes of the root element, all others are looked for in "Install", then in
+ *                     "BoardAttributes"
+ *   NamesLen  in      length of Names in characters, the terminators of its names counted; one more counts
+ *                     as a last, empty name
+ *   Values    out     buffer for the values in the same order, each with its terminator, and one more behind
+ *                     the last
+ *   dwValues  in/out  its length in characters; out, the characters written with all terminators
+ *
+ * PGSP_OK                      Values and dwValues are set. When the buffer has room for all but the last
+ *                              terminator, that one is missing and not counted
+ * PGSP_ERR_INVALID_PARAMETERS  DeviceID is null or empty, another pointer is null, or a name has no value;
+ *                              the outputs are as they were
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValues tells the characters needed; the buffer's first 260 characters are as
+ *                              they were
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_BoardGetValueListBL(const wchar_t* DeviceID, const wchar_t* Names, uint32_t NamesLen,
+                                 wchar_t* Values, uint32_t* dwValues);
 
-    /*
-     * Reads one value of a board from a place that the caller names.
-     *
-     *   DeviceID       in      the board
-     *   ParameterPath  in      a section, or section\parameter for a word of that parameter's constraints;
-     *                          null or "" reads as PGSP_BoardGetValueBL does
-     *   Parameter      in      the parameter, or the word; null or "" stands for "(default)"
-     *   Value          out     buffer for the value
-     *   dwValue        in/out  its length in characters
-     *
-     * Results as PGSP_BoardGetValueBL.
-     */
-    int32_t PGSP_BoardGetValueRawBL(const wchar_t* DeviceID, const wchar_t* ParameterPath,
-                                    const wchar_t* Parameter, wchar_t* Value, uint32_t* dwValue);
+/*
+ * Reads a list of values of a board. A list that isn't there is an empty one.
+ *
+ *   Collection  in      the list's path, such as "Constraints\baudrate"
+ *   DeviceID    in      the board
+ *   Values      out     buffer of at least 260 characters for the values, each with its terminator, and one
+ *                       more behind the last
+ *   dwValues    in/out  its length in characters; out, the characters written with all terminators
+ *
+ * PGSP_OK                      Values and dwValues are set
+ * PGSP_ERR_INVALID_PARAMETERS  DeviceID is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValues tells the characters needed. The first 260 characters of the buffer
+ *                              are cleared, whatever dwValues said
+ * PGSP_ERR_NO_MORE_ITEMS       all values are there, but not the terminator behind the last, for which there
+ *                              is no room; an empty list reads PGSP_ERR_PARAM_NOT_FOUND then, and one of a
+ *                              board that isn't there PGSP_ERR_CANT_LOAD_XML_FILE
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_BoardGetValueCollectionBL(const wchar_t* Collection, const wchar_t* DeviceID, wchar_t* Values,
+                                       uint32_t* dwValues);
 
-    /*
-     * Reads several values of a board at once: all of them, or none.
-     *
-     *   DeviceID  in      the board
-     *   Names     in      names one behind the other, each with its terminator. "DeviceID" and "CP_TYPE" are
-     *                     attributes of the root element, all others are looked for in "Install", then in
-     *                     "BoardAttributes"
-     *   NamesLen  in      length of Names in characters, the terminators of its names counted; one more
-     * counts as a last, empty name Values    out     buffer for the values in the same order, each with its
-     * terminator, and one more behind the last dwValues  in/out  its length in characters; out, the
-     * characters written with all terminators
-     *
-     * PGSP_OK                      Values and dwValues are set. When the buffer has room for all but the last
-     *                              terminator, that one is missing and not counted
-     * PGSP_ERR_INVALID_PARAMETERS  DeviceID is null or empty, another pointer is null, or a name has no
-     * value; the outputs are as they were PGSP_ERR_BUFFER_TOO_SHORT    dwValues tells the characters needed;
-     * the buffer's first 260 characters are as they were PGSP_ERR_FOLDER_NOT_FOUND    the program folder
-     * can't be found
-     */
-    int32_t PGSP_BoardGetValueListBL(const wchar_t* DeviceID, const wchar_t* Names, uint32_t NamesLen,
-                                     wchar_t* Values, uint32_t* dwValues);
+/*
+ * Reads the list "NotSupported" of a board; in all else PGSP_BoardGetValueCollectionBL.
+ */
+int32_t PGSP_BoardGetNotSupportedBL(const wchar_t* DeviceID, wchar_t* Values, uint32_t* dwValues);
 
-    /*
-     * Reads a list of values of a board. A list that isn't there is an empty one.
-     *
-     *   Collection  in      the list's path, such as "Constraints\baudrate"
-     *   DeviceID    in      the board
-     *   Values      out     buffer of at least 260 characters for the values, each with its terminator, and
-     * one more behind the last dwValues    in/out  its length in characters; out, the characters written with
-     * all terminators
-     *
-     * PGSP_OK                      Values and dwValues are set
-     * PGSP_ERR_INVALID_PARAMETERS  DeviceID is null or empty, or an output is null
-     * PGSP_ERR_BUFFER_TOO_SHORT    dwValues tells the characters needed. The first 260 characters of the
-     * buffer are cleared, whatever dwValues said PGSP_ERR_NO_MORE_ITEMS       all values are there, but not
-     * the terminator behind the last, for which there is no room; an empty list reads
-     * PGSP_ERR_PARAM_NOT_FOUND then, and one of a board that isn't there PGSP_ERR_CANT_LOAD_XML_FILE
-     * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
-     */
-    int32_t PGSP_BoardGetValueCollectionBL(const wchar_t* Collection, const wchar_t* DeviceID,
-                                           wchar_t* Values, uint32_t* dwValues);
+/* Protocols: what the catalogue says of protocols ----------------------------------------------------
+ *
+ * A protocol is named by the CP_TYPE of a log device or by its file's name, which begins with
+ * "Automation-OnlineAccess-PT-". A bus profile is a value of the parameter "busparam": "0", "1", "2" or "3",
+ * and where it is said also "DP", "Std", "Uni" or "User" in any case.
+ */
 
-    /*
-     * Reads the list "NotSupported" of a board; in all else PGSP_BoardGetValueCollectionBL.
-     */
-    int32_t PGSP_BoardGetNotSupportedBL(const wchar_t* DeviceID, wchar_t* Values, uint32_t* dwValues);
+/*
+ * Enumerates what a protocol's file says: ask for index 0, 1, 2 and so on until the result isn't PGSP_OK. The
+ * arguments that are given, neither null nor empty, choose what is enumerated.
+ *
+ *   Protocol   in      the protocol
+ *   Parameter  in      not given: all parameters with their defaults; nothing below is looked at
+ *   Profile    in      not given: the constraint words of Parameter. Given: a value of it, a bus profile also
+ *                      by its word, and what is enumerated are the values that it gives to other parameters
+ *   SubParam   in      with SubValue: a parameter below that value
+ *   SubValue   in      a value of SubParam; when one of the two is not given, both are not looked at
+ *   index      in      which one
+ *   Name       out     buffer for the name
+ *   parLen     in/out  its length in characters
+ *   Value      out     buffer for the value
+ *   valLen     in/out  its length in characters
+ *
+ * PGSP_OK                          all four are set
+ * PGSP_ERR_INVALID_PARAMETERS      Protocol is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT        a buffer is too small and its length now tells; the name goes first
+ * PGSP_ERR_NO_MORE_ITEMS           index lies past the last one, or there is no such profile
+ * PGSP_ERR_FILE_NOT_FOUND          there is no such protocol (for a profile)
+ * PGSP_ERR_CANT_LOAD_XML_FILE      there is no such protocol, or its file is malformed
+ * PGSP_ERR_PARAM_NOT_FOUND         the protocol has no such parameter
+ * PGSP_ERR_CANT_CREATE_XML_ENGINE  COM isn't initialised on this thread (for a profile)
+ * PGSP_ERR_FOLDER_NOT_FOUND        the program folder can't be found
+ */
+int32_t PGSP_ProtocolGetEnumValueBL(const wchar_t* Protocol, const wchar_t* Parameter, const wchar_t* Profile,
+                                    const wchar_t* SubParam, const wchar_t* SubValue, uint32_t index,
+                                    wchar_t* Name, uint32_t* parLen, wchar_t* Value, uint32_t* valLen);
 
-    /* Protocols: what the catalogue says of protocols ----------------------------------------------------
-     *
-     * A protocol is named by the CP_TYPE of a log device or by its file's name, which begins with
-     * "Automation-OnlineAccess-PT-". A bus profile is a value of the parameter "busparam": "0", "1", "2" or
-     * "3", and where it is said also "DP", "Std", "Uni" or "User" in any case.
-     */
+/*
+ * Enumerates the bus profiles of a protocol.
+ *
+ *   ProtocolFile   in      the protocol
+ *   index          in      which one
+ *   Busprofile     out     buffer for the profile's text
+ *   BusprofileLen  in/out  its length in characters
+ *
+ * PGSP_OK                      both are set
+ * PGSP_ERR_INVALID_PARAMETERS  ProtocolFile is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    BusprofileLen tells the text's length
+ * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one
+ * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such protocol
+ * PGSP_ERR_PARAM_NOT_FOUND     the protocol has no bus profiles
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_ProtocolGetEnumBusprofilesBL(const wchar_t* ProtocolFile, uint32_t index, wchar_t* Busprofile,
+                                          uint32_t* BusprofileLen);
 
-    /*
-     * Enumerates what a protocol's file says: ask for index 0, 1, 2 and so on until the result isn't PGSP_OK.
-     * The arguments that are given, neither null nor empty, choose what is enumerated.
-     *
-     *   Protocol   in      the protocol
-     *   Parameter  in      not given: all parameters with their defaults; nothing below is looked at
-     *   Profile    in      not given: the constraint words of Parameter. Given: a value of it, a bus profile
-     * also by its word, and what is enumerated are the values that it gives to other parameters SubParam   in
-     * with SubValue: a parameter below that value SubValue   in      a value of SubParam; when one of the two
-     * is not given, both are not looked at index      in      which one Name       out     buffer for the
-     * name parLen     in/out  its length in characters Value      out     buffer for the value valLen in/out
-     * its length in characters
-     *
-     * PGSP_OK                          all four are set
-     * PGSP_ERR_INVALID_PARAMETERS      Protocol is null or empty, or an output is null
-     * PGSP_ERR_BUFFER_TOO_SHORT        a buffer is too small and its length now tells; the name goes first
-     * PGSP_ERR_NO_MORE_ITEMS           index lies past the last one, or there is no such profile
-     * PGSP_ERR_FILE_NOT_FOUND          there is no such protocol (for a profile)
-     * PGSP_ERR_CANT_LOAD_XML_FILE      there is no such protocol, or its file is malformed
-     * PGSP_ERR_PARAM_NOT_FOUND         the protocol has no such parameter
-     * PGSP_ERR_CANT_CREATE_XML_ENGINE  COM isn't initialised on this thread (for a profile)
-     * PGSP_ERR_FOLDER_NOT_FOUND        the program folder can't be found
-     */
-    int32_t PGSP_ProtocolGetEnumValueBL(const wchar_t* Protocol, const wchar_t* Parameter,
-                                        const wchar_t* Profile, const wchar_t* SubParam,
-                                        const wchar_t* SubValue, uint32_t index, wchar_t* Name,
-                                        uint32_t* parLen, wchar_t* Value, uint32_t* valLen);
+/*
+ * Enumerates the baud rates that a protocol allows, in all or under a bus profile.
+ *
+ *   ProtocolFile  in      the protocol
+ *   Profile       in      the bus profile by its number, a word isn't known here; null or "" for all
+ *   index         in      which one
+ *   Baudrate      out     buffer for the baud rate's text
+ *   BaudrateLen   in/out  its length in characters
+ *
+ * Results as PGSP_ProtocolGetEnumBusprofilesBL; PGSP_ERR_PARAM_NOT_FOUND when there is no such profile or no
+ * list of baud rates.
+ */
+int32_t PGSP_ProtocolGetEnumBaudrateBL(const wchar_t* ProtocolFile, const wchar_t* Profile, uint32_t index,
+                                       wchar_t* Baudrate, uint32_t* BaudrateLen);
 
-    /*
-     * Enumerates the bus profiles of a protocol.
-     *
-     *   ProtocolFile   in      the protocol
-     *   index          in      which one
-     *   Busprofile     out     buffer for the profile's text
-     *   BusprofileLen  in/out  its length in characters
-     *
-     * PGSP_OK                      both are set
-     * PGSP_ERR_INVALID_PARAMETERS  ProtocolFile is null or empty, or an output is null
-     * PGSP_ERR_BUFFER_TOO_SHORT    BusprofileLen tells the text's length
-     * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one
-     * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such protocol
-     * PGSP_ERR_PARAM_NOT_FOUND     the protocol has no bus profiles
-     * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
-     */
-    int32_t PGSP_ProtocolGetEnumBusprofilesBL(const wchar_t* ProtocolFile, uint32_t index,
-                                              wchar_t* Busprofile, uint32_t* BusprofileLen);
+/*
+ * Reads one thing that a protocol says: an attribute of its root element if there is one of this name, and
+ * otherwise what the given arguments lead to.
+ *
+ *   CPType     in      the protocol
+ *   Parameter  in      the parameter
+ *   Value      in      not given: Attribute is a constraint word of Parameter. Given: a value of Parameter, a
+ *                      bus profile also by its word, and Attribute is a parameter to which it gives a value
+ *   SubParam   in      with SubValue: a parameter below that value
+ *   SubValue   in      a value of SubParam; when one of the two is not given, both are not looked at
+ *   Attribute  in      what is asked for; null or "" stands for "(default)"
+ *   Text       out     buffer for the answer
+ *   dwText     in/out  its length in characters
+ *
+ * PGSP_OK                      Text and dwText are set
+ * PGSP_ERR_INVALID_PARAMETERS  CPType is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwText tells the answer's length
+ * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such protocol
+ * PGSP_ERR_PARAM_NOT_FOUND     the protocol doesn't say
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_ProtocolGetValueBL(const wchar_t* CPType, const wchar_t* Parameter, const wchar_t* Value,
+                                const wchar_t* SubParam, const wchar_t* SubValue, const wchar_t* Attribute,
+                                wchar_t* Text, uint32_t* dwText);
 
-    /*
-     * Enumerates the baud rates that a protocol allows, in all or under a bus profile.
-     *
-     *   ProtocolFile  in      the protocol
-     *   Profile       in      the bus profile by its number, a word isn't known here; null or "" for all
-     *   index         in      which one
-     *   Baudrate      out     buffer for the baud rate's text
-     *   BaudrateLen   in/out  its length in characters
-     *
-     * Results as PGSP_ProtocolGetEnumBusprofilesBL; PGSP_ERR_PARAM_NOT_FOUND when there is no such profile or
-     * no list of baud rates.
-     */
-    int32_t PGSP_ProtocolGetEnumBaudrateBL(const wchar_t* ProtocolFile, const wchar_t* Profile,
-                                           uint32_t index, wchar_t* Baudrate, uint32_t* BaudrateLen);
+/*
+ * Reads a value that a parameter's value gives to another parameter, by a path.
+ *
+ *   CPType         in      the protocol
+ *   ParameterPath  in      parameter\value or parameter\value\subparameter\subvalue, with "Constraints\" in
+ *                          front when it lies there; null or "" for an attribute of the root element
+ *   Attribute      in      what is asked for; null or "" stands for "(default)"
+ *   Value          out     buffer for the value
+ *   dwValue        in/out  its length in characters
+ *
+ * PGSP_OK                          Value and dwValue are set
+ * PGSP_ERR_INVALID_PARAMETERS      CPType is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT        dwValue tells the value's length
+ * PGSP_ERR_FILE_NOT_FOUND          there is no such protocol (with a path)
+ * PGSP_ERR_CANT_LOAD_XML_FILE      there is none (without), or its file is malformed or over 10,000,000 bytes
+ * PGSP_ERR_PARAM_NOT_FOUND         the protocol has no such value
+ * PGSP_ERR_CANT_CREATE_XML_ENGINE  COM isn't initialised on this thread (with a path)
+ * PGSP_ERR_FOLDER_NOT_FOUND        the program folder can't be found
+ */
+int32_t PGSP_ProtocolGetValueRawBL(const wchar_t* CPType, const wchar_t* ParameterPath,
+                                   const wchar_t* Attribute, wchar_t* Value, uint32_t* dwValue);
 
-    /*
-     * Reads one thing that a protocol says: an attribute of its root element if there is one of this name,
-     * and otherwise what the given arguments lead to.
-     *
-     *   CPType     in      the protocol
-     *   Parameter  in      the parameter
-     *   Value      in      not given: Attribute is a constraint word of Parameter. Given: a value of
-     * Parameter, a bus profile also by its word, and Attribute is a parameter to which it gives a value
-     *   SubParam   in      with SubValue: a parameter below that value
-     *   SubValue   in      a value of SubParam; when one of the two is not given, both are not looked at
-     *   Attribute  in      what is asked for; null or "" stands for "(default)"
-     *   Text       out     buffer for the answer
-     *   dwText     in/out  its length in characters
-     *
-     * PGSP_OK                      Text and dwText are set
-     * PGSP_ERR_INVALID_PARAMETERS  CPType is null or empty, or an output is null
-     * PGSP_ERR_BUFFER_TOO_SHORT    dwText tells the answer's length
-     * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such protocol
-     * PGSP_ERR_PARAM_NOT_FOUND     the protocol doesn't say
-     * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
-     */
-    int32_t PGSP_ProtocolGetValueBL(const wchar_t* CPType, const wchar_t* Parameter, const wchar_t* Value,
-                                    const wchar_t* SubParam, const wchar_t* SubValue,
-                                    const wchar_t* Attribute, wchar_t* Text, uint32_t* dwText);
+/* Lists of files ------------------------------------------------------------------------------------ */
 
-    /*
-     * Reads a value that a parameter's value gives to another parameter, by a path.
-     *
-     *   CPType         in      the protocol
-     *   ParameterPath  in      parameter\value or parameter\value\subparameter\subvalue, with "Constraints\"
-     * in front when it lies there; null or "" for an attribute of the root element Attribute      in what is
-     * asked for; null or "" stands for "(default)" Value          out     buffer for the value dwValue in/out
-     * its length in characters
-     *
-     * PGSP_OK                          Value and dwValue are set
-     * PGSP_ERR_INVALID_PARAMETERS      CPType is null or empty, or an output is null
-     * PGSP_ERR_BUFFER_TOO_SHORT        dwValue tells the value's length
-     * PGSP_ERR_FILE_NOT_FOUND          there is no such protocol (with a path)
-     * PGSP_ERR_CANT_LOAD_XML_FILE      there is none (without), or its file is malformed or over 10,000,000
-     * bytes PGSP_ERR_PARAM_NOT_FOUND         the protocol has no such value PGSP_ERR_CANT_CREATE_XML_ENGINE
-     * COM isn't initialised on this thread (with a path) PGSP_ERR_FOLDER_NOT_FOUND        the program folder
-     * can't be found
-     */
-    int32_t PGSP_ProtocolGetValueRawBL(const wchar_t* CPType, const wchar_t* ParameterPath,
-                                       const wchar_t* Attribute, wchar_t* Value, uint32_t* dwValue);
+/*
+ * Reads the names of all files of a catalogue folder, as the files are called, in the folder's order. The
+ * listing is taken at the first call and stays until the process ends.
+ *
+ *   FolderName   in      "Boards", "Protocols", "DefaultLogDevices" or another folder beside those
+ *   Templates    out     buffer for the names, each with its terminator, and one more behind the last
+ *   dwTemplates  in/out  its length in characters; out, the characters written with all terminators
+ *
+ * PGSP_OK                      both are set; a folder that isn't there is an empty list
+ * PGSP_ERR_INVALID_PARAMETERS  FolderName is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwTemplates tells the characters needed, and the buffer's first 260 characters
+ *                              are as they were; or only the last terminator has no room, and dwTemplates
+ *                              tells what was written
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_TemplateGetListBL(const wchar_t* FolderName, wchar_t* Templates, uint32_t* dwTemplates);
 
-    /* Lists of files ------------------------------------------------------------------------------------ */
+/*
+ * Enumerates the files of a catalogue folder as a person knows them: boards by their DeviceID, all others
+ * without what file names of the catalogue begin with.
+ *
+ *   FolderName    in      as above
+ *   index         in      which one
+ *   TemplateName  out     buffer for the name
+ *   TemplateLen   in/out  its length in characters
+ *
+ * PGSP_OK                      both are set
+ * PGSP_ERR_INVALID_PARAMETERS  FolderName is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    TemplateLen tells the name's length
+ * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_TemplateGetEnumNoPrefixBL(const wchar_t* FolderName, uint32_t index, wchar_t* TemplateName,
+                                       uint32_t* TemplateLen);
 
-    /*
-     * Reads the names of all files of a catalogue folder, as the files are called, in the folder's order. The
-     * listing is taken at the first call and stays until the process ends.
-     *
-     *   FolderName   in      "Boards", "Protocols", "DefaultLogDevices" or another folder beside those
-     *   Templates    out     buffer for the names, each with its terminator, and one more behind the last
-     *   dwTemplates  in/out  its length in characters; out, the characters written with all terminators
-     *
-     * PGSP_OK                      both are set; a folder that isn't there is an empty list
-     * PGSP_ERR_INVALID_PARAMETERS  FolderName is null or empty, or an output is null
-     * PGSP_ERR_BUFFER_TOO_SHORT    dwTemplates tells the characters needed, and the buffer's first 260
-     * characters are as they were; or only the last terminator has no room, and dwTemplates tells what was
-     * written PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
-     */
-    int32_t PGSP_TemplateGetListBL(const wchar_t* FolderName, wchar_t* Templates, uint32_t* dwTemplates);
+/*
+ * Read the names of all log devices and of all log names, hidden and temporary ones too.
+ *
+ *   LogDevices, LogNames      out     buffer for the names, each with its terminator, and one more behind
+ *   dwLogDevices, dwLogNames  in/out  its length in characters; out, the characters written
+ *
+ * Results as PGSP_TemplateGetListBL, but the folder is the data folder.
+ */
+int32_t PGSP_GetLogDeviceListBL(wchar_t* LogDevices, uint32_t* dwLogDevices);
+int32_t PGSP_GetLogNameListBL(wchar_t* LogNames, uint32_t* dwLogNames);
 
-    /*
-     * Enumerates the files of a catalogue folder as a person knows them: boards by their DeviceID, all others
-     * without what file names of the catalogue begin with.
-     *
-     *   FolderName    in      as above
-     *   index         in      which one
-     *   TemplateName  out     buffer for the name
-     *   TemplateLen   in/out  its length in characters
-     *
-     * PGSP_OK                      both are set
-     * PGSP_ERR_INVALID_PARAMETERS  FolderName is null or empty, or an output is null
-     * PGSP_ERR_BUFFER_TOO_SHORT    TemplateLen tells the name's length
-     * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one
-     * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
-     */
-    int32_t PGSP_TemplateGetEnumNoPrefixBL(const wchar_t* FolderName, uint32_t index, wchar_t* TemplateName,
-                                           uint32_t* TemplateLen);
+/* Notification: named events of the caller's, set when a stored file changes ------------------------ */
 
-    /*
-     * Read the names of all log devices and of all log names, hidden and temporary ones too.
-     *
-     *   LogDevices, LogNames      out     buffer for the names, each with its terminator, and one more behind
-     *   dwLogDevices, dwLogNames  in/out  its length in characters; out, the characters written
-     *
-     * Results as PGSP_TemplateGetListBL, but the folder is the data folder.
-     */
-    int32_t PGSP_GetLogDeviceListBL(wchar_t* LogDevices, uint32_t* dwLogDevices);
-    int32_t PGSP_GetLogNameListBL(wchar_t* LogNames, uint32_t* dwLogNames);
+/*
+ * Registers an event, so that every successful change made through this library in this process sets it.
+ *
+ *   FolderName  in   the folder word: "LogDevices", "LogNames" or "meta"; 128 characters count
+ *   FileName    in   one file of that folder, as its plain name; null or "" means every file; 256 count
+ *   EventName   in   the name of an event that the caller has created, of the session or, with "Global\"
+ *                    in front, of the machine; 64 characters count. It is opened by name at each change and
+ *                    never kept open: one that can't be opened then is dropped, and its name is free again.
+ *
+ * The event carries no data; what changed is to be asked for. An event is registered at most once, whatever
+ * it is registered for. Temporary log devices are never announced.
+ *
+ * PGSP_OK                      registered
+ * PGSP_ERR_INVALID_PARAMETERS  FolderName or EventName is null or empty
+ * PGSP_ERR_DUPLICATE_EVENT     an event of this name is registered already
+ */
+int32_t RegisterNotification(const wchar_t* FolderName, const wchar_t* FileName, const wchar_t* EventName);
 
-    /* Notification: named events of the caller's, set when a stored file changes ------------------------ */
+/*
+ * Takes a registration back. A change that is being announced at this time may still set the event.
+ *
+ *   FolderName  in   as registered
+ *   FileName    in   as registered; null or "" finds the registration whatever file it is for
+ *   EventName   in   as registered
+ *
+ * PGSP_OK                      taken back
+ * PGSP_ERR_INVALID_PARAMETERS  FolderName or EventName is null or empty
+ * PGSP_ERR_NOT_REGISTERED      there is no such registration, or none at all
+ */
+int32_t UnRegisterNotification(const wchar_t* FolderName, const wchar_t* FileName, const wchar_t* EventName);
 
-    /*
-     * Registers an event, so that every successful change made through this library in this process sets it.
-     *
-     *   FolderName  in   the folder word: "LogDevices", "LogNames" or "meta"; 128 characters count
-     *   FileName    in   one file of that folder, as its plain name; null or "" means every file; 256 count
-     *   EventName   in   the name of an event that the caller has created, of the session or, with "Global\"
-     *                    in front, of the machine; 64 characters count. It is opened by name at each change
-     * and never kept open: one that can't be opened then is dropped, and its name is free again.
-     *
-     * The event carries no data; what changed is to be asked for. An event is registered at most once,
-     * whatever it is registered for. Temporary log devices are never announced.
-     *
-     * PGSP_OK                      registered
-     * PGSP_ERR_INVALID_PARAMETERS  FolderName or EventName is null or empty
-     * PGSP_ERR_DUPLICATE_EVENT     an event of this name is registered already
-     */
-    int32_t RegisterNotification(const wchar_t* FolderName, const wchar_t* FileName,
-                                 const wchar_t* EventName);
+/* The module --------------------------------------------------------------------------------------- */
 
-    /*
-     * Takes a registration back. A change that is being announced at this time may still set the event.
-     *
-     *   FolderName  in   as registered
-     *   FileName    in   as registered; null or "" finds the registration whatever file it is for
-     *   EventName   in   as registered
-     *
-     * PGSP_OK                      taken back
-     * PGSP_ERR_INVALID_PARAMETERS  FolderName or EventName is null or empty
-     * PGSP_ERR_NOT_REGISTERED      there is no such registration, or none at all
-     */
-    int32_t UnRegisterNotification(const wchar_t* FolderName, const wchar_t* FileName,
-                                   const wchar_t* EventName);
-
-    /* The module --------------------------------------------------------------------------------------- */
-
-    /*
-     * Drops what the library has parsed and its watch of the data folder. The library stays usable and
-     * builds both anew when it needs them. Harmless when there is nothing to drop. No other call may be
-     * under way in this process meanwhile.
-     */
-    void NorvepaBl64x_deinit(void);
+/*
+ * Drops what the library has parsed and its watch of the data folder. The library stays usable and
+ * builds both anew when it needs them. Harmless when there is nothing to drop. No other call may be
+ * under way in this process meanwhile.
+ */
+void NorvepaBl64x_deinit(void);
 
 #ifdef __cplusplus
 }
