@@ -732,6 +732,24 @@ int32_t PGSP_TemplateGetEnumNoPrefixBL(const wchar_t* FolderName, uint32_t index
 int32_t PGSP_GetLogDeviceListBL(wchar_t* LogDevices, uint32_t* dwLogDevices);
 int32_t PGSP_GetLogNameListBL(wchar_t* LogNames, uint32_t* dwLogNames);
 
+/*
+ * Reads the names of the log devices in which a parameter has a value, or another one. Hidden and temporary log
+ * devices take part; those in which the parameter has no value, also no default, or one of 260 characters and
+ * more, don't.
+ *
+ *   EntryName     in      the parameter
+ *   EntryValue    in      the value, compared without regard to case
+ *   mode          in      1 those that have it, 2 those that have another; any other number finds none
+ *   LogDevices    out     buffer for the names, each with its terminator, and one more behind the last
+ *   dwLogDevices  in/out  its length in characters; out, the characters written with all terminators
+ *
+ * Results as PGSP_GetLogDeviceListBL, but that an empty list is
+ * PGSP_ERR_NO_MORE_ITEMS       no log device is meant; the buffer begins with two terminators, dwLogDevices is 1
+ * and EntryName and EntryValue must not be null or empty either.
+ */
+int32_t PGSP_GetLogDeviceListExBL(const wchar_t* EntryName, const wchar_t* EntryValue, uint32_t mode,
+                                  wchar_t* LogDevices, uint32_t* dwLogDevices);
+
 /* Notification: named events of the caller's, set when a stored file changes ------------------------ */
 
 /*

@@ -1,5 +1,7 @@
 #include "CatalogueScene.h"
 
+#include <algorithm>
+
 namespace norvepa::test
 {
 namespace
@@ -17,6 +19,8 @@ struct ListExport
     std::int32_t withoutRoomForEnd;      // behind two strings
     std::int32_t withoutRoomForEndAlone; // of no strings
     bool clears = false;                 // what is too short
+    std::int32_t ofNothing = PGSP_OK;    // an empty list, and the terminators that it is
+    std::uint32_t terminatorsOfNothing = 1;
 };
 
 void PrintTo(const ListExport& each, std::ostream* stream)
@@ -70,6 +74,15 @@ void FillCollection(const StoreRoots& roots, const Strings& strings)
                                       L"NotSupported", XmlContent().Element(L"ValueCollection", values))));
 }
 
+void FillDevices(const StoreRoots& roots, const Strings& strings)
+{
+    for (const std::wstring& name : strings)
+    {
+        WriteBytes(roots.logDevice(name),
+                   LogDeviceFile(XmlContent().Element(L"DeviceHeader", XmlContent().Text(L"Halle", L"2"))));
+    }
+}
+
 const ListExport ListExports[] = {
     {"BoardGetValueList", &FillBoardValues, &AskBoardValues, PGSP_OK, PGSP_OK},
     {"BoardGetValueCollection", &FillCollection,
@@ -106,6 +119,11 @@ const ListExport ListExports[] = {
          return library.PGSP_GetLogNameListBL(buffer, length);
      },
      PGSP_ERR_BUFFER_TOO_SHORT, PGSP_ERR_BUFFER_TOO_SHORT},
+    {"GetLogDeviceListEx", &FillDevices,
+     [](const Exports& library, wchar_t* buffer, std::uint32_t* length) {
+         return library.PGSP_GetLogDeviceListExBL(L"Halle", L"2", 1, buffer, length);
+     },
+     PGSP_ERR_BUFFER_TOO_SHORT, PGSP_ERR_BUFFER_TOO_SHORT, false, PGSP_ERR_NO_MORE_ITEMS, 2},
 };
 
 class ListEdges : public CatalogueScene, public testing::WithParamInterface<ListExport>
@@ -220,9 +238,9 @@ TEST_P(ListEdges, AreTheEndAloneForAnEmptyList)
         SCOPED_TRACE(capacity);
         ListBuffer buffer(capacity);
 
-        EXPECT_EQ(Ask(buffer), PGSP_OK);
+        EXPECT_EQ(Ask(buffer), GetParam().ofNothing);
 
-        EXPECT_EQ(buffer.written(), Packed({}));
+        EXPECT_EQ(buffer.written(), std::wstring(std::min(capacity, GetParam().terminatorsOfNothing), L'\0'));
         EXPECT_EQ(buffer.length, 1U);
     }
 }

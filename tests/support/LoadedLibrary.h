@@ -81,6 +81,7 @@ struct Exports : LoadedLibrary
     decltype(&::PGSP_BoardGetValueListBL) PGSP_BoardGetValueListBL = Find("PGSP_BoardGetValueListBL");
     decltype(&::PGSP_BoardGetValueRawBL) PGSP_BoardGetValueRawBL = Find("PGSP_BoardGetValueRawBL");
     decltype(&::PGSP_GetLogDeviceListBL) PGSP_GetLogDeviceListBL = Find("PGSP_GetLogDeviceListBL");
+    decltype(&::PGSP_GetLogDeviceListExBL) PGSP_GetLogDeviceListExBL = Find("PGSP_GetLogDeviceListExBL");
     decltype(&::PGSP_GetLogNameListBL) PGSP_GetLogNameListBL = Find("PGSP_GetLogNameListBL");
     decltype(&::PGSP_ProtocolGetEnumBaudrateBL) PGSP_ProtocolGetEnumBaudrateBL =
         Find("PGSP_ProtocolGetEnumBaudrateBL");
