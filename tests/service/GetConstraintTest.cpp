@@ -8,6 +8,13 @@ namespace
 class GetConstraint : public DeviceScene
 {
 protected:
+    [[nodiscard]] static std::wstring OrEmpty(const wchar_t* logDevice, const wchar_t* parameter,
+                                              const wchar_t* word)
+    {
+        DeviceCatalogue catalogue(logDevice);
+        return ConstraintOrEmpty(catalogue, parameter, word);
+    }
+
     void WriteStufe(ConstraintWords words) const { store.WriteBoard(Catalogue().Parameter(L"Stufe", words)); }
 };
 
@@ -184,12 +191,12 @@ TEST_F(GetConstraint, OrEmptyIsEmptyForWhateverFails)
 {
     WriteStufe({{L"min", L"1"}});
 
-    EXPECT_EQ(ConstraintOrEmpty(L"Presse", L"Stufe", L"min"), L"1");
-    EXPECT_EQ(ConstraintOrEmpty(L"Presse", L"Stufe", L"max"), L"");
-    EXPECT_EQ(ConstraintOrEmpty(L"Presse", L"", L"min"), L"");
-    EXPECT_EQ(ConstraintOrEmpty(L"gone", L"Stufe", L"min"), L"");
+    EXPECT_EQ(OrEmpty(L"Presse", L"Stufe", L"min"), L"1");
+    EXPECT_EQ(OrEmpty(L"Presse", L"Stufe", L"max"), L"");
+    EXPECT_EQ(OrEmpty(L"Presse", L"", L"min"), L"");
+    EXPECT_EQ(OrEmpty(L"gone", L"Stufe", L"min"), L"");
     store.TakeProgramFolderAway();
-    EXPECT_EQ(ConstraintOrEmpty(L"Presse", L"Stufe", L"min"), L"");
+    EXPECT_EQ(OrEmpty(L"Presse", L"Stufe", L"min"), L"");
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "frame/Arguments.h"
 #include "frame/Text.h"
-#include "service/norvepaLogDevBl64/DeviceCatalogue.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 #include "store/norvxmlCatalogue.h"
 
@@ -48,59 +47,53 @@ bool IsInCollection(const std::wstring& file, const wchar_t* key, std::wstring_v
 
 // The list of a baud rate always comes from the board, also when only the protocol defines the parameter:
 // then it is read another way, and a board without it refuses every value.
-bool IsAllowedBaudrate(const DeviceCatalogue& files, bool boardDefines, std::wstring_view value)
+bool IsAllowedBaudrate(const DeviceCatalogue& catalogue, bool boardDefines, std::wstring_view value)
 {
     if (boardDefines)
     {
-        return IsInCollection(files.board, L"Constraints\\baudrate", value);
+        return IsInCollection(catalogue.board(), L"Constraints\\baudrate", value);
     }
     return IsListed(value, [&](std::uint32_t index, std::wstring* entry) {
-        return NorvXMLEnumBaudrate(files.board.c_str(), index, entry);
+        return NorvXMLEnumBaudrate(catalogue.board().c_str(), index, entry);
     });
 }
 
 // That of a timeout comes from the file that defines the parameter.
-bool IsAllowedTimeout(const DeviceCatalogue& files, bool boardDefines, std::wstring_view value)
+bool IsAllowedTimeout(const DeviceCatalogue& catalogue, bool boardDefines, std::wstring_view value)
 {
-    return IsInCollection(boardDefines ? files.board : files.protocol, L"Constraints\\l4_timeout", value);
+    return IsInCollection(boardDefines ? catalogue.board() : catalogue.protocol(), L"Constraints\\l4_timeout",
+                          value);
 }
 
 } // namespace
 
-Result LogDeviceCheckConstraintList(const wchar_t* LogDevice, const wchar_t* Parameter,
+Result LogDeviceCheckConstraintList(DeviceCatalogue& catalogue, const wchar_t* Parameter,
                                     const wchar_t* ValueToCheck)
 {
     const ExportFrame frame{"LogDeviceCheckConstraintList: "};
 
     NORV_TRACE(frame, TraceEntry, ">> LogDevice = %s, Parameter = %s, ValueToCheck = %s",
-               TraceToAnsi(LogDevice), TraceToAnsi(Parameter), TraceToAnsi(ValueToCheck));
-    if (IsMissing(LogDevice) || IsMissing(Parameter) || IsMissing(ValueToCheck))
+               TraceToAnsi(catalogue.logDevice()), TraceToAnsi(Parameter), TraceToAnsi(ValueToCheck));
+    if (IsMissing(catalogue.logDevice()) || IsMissing(Parameter) || IsMissing(ValueToCheck))
     {
         return frame.InvalidParameters();
     }
-    const std::wstring dataFolder = GetDataFolder();
-    if (dataFolder.empty())
+    if (const auto exit = catalogue.Unavailable(frame))
     {
-        return frame.FolderNotFound("Can not get ProgramData Path");
-    }
-    const std::wstring programFolder = GetProgramFolder();
-    if (programFolder.empty())
-    {
-        return NothingKnown(frame);
+        return *exit;
     }
 
-    const DeviceCatalogue files = CatalogueOf(frame, dataFolder, programFolder, LogDevice);
     const bool isBaudrate = EqualNoCase(Parameter, L"baudrate");
     if (isBaudrate || EqualNoCase(Parameter, L"l4_timeout"))
     {
-        const bool boardDefines = Defines(files.board, Parameter);
-        if (!boardDefines && !Defines(files.protocol, Parameter))
+        const bool boardDefines = Defines(catalogue.board(), Parameter);
+        if (!boardDefines && !Defines(catalogue.protocol(), Parameter))
         {
             NORV_TRACE(frame, TraceExit, "<< return PGSP_OK, no Constraints found");
             return PGSP_OK;
         }
-        const bool isAllowed = isBaudrate ? IsAllowedBaudrate(files, boardDefines, ValueToCheck)
-                                          : IsAllowedTimeout(files, boardDefines, ValueToCheck);
+        const bool isAllowed = isBaudrate ? IsAllowedBaudrate(catalogue, boardDefines, ValueToCheck)
+                                          : IsAllowedTimeout(catalogue, boardDefines, ValueToCheck);
         if (!isAllowed)
         {
             NORV_TRACE(frame, TraceExit, "<< return 0x%x", static_cast<unsigned>(PGSP_NOT_IN_LIST));
@@ -109,6 +102,13 @@ Result LogDeviceCheckConstraintList(const wchar_t* LogDevice, const wchar_t* Par
     }
     NORV_TRACE(frame, TraceExit, "<< return PGSP_OK, Constraint = %s", TraceToAnsi(ValueToCheck));
     return PGSP_OK;
+}
+
+Result LogDeviceCheckConstraintList(const wchar_t* LogDevice, const wchar_t* Parameter,
+                                    const wchar_t* ValueToCheck)
+{
+    DeviceCatalogue catalogue(LogDevice);
+    return LogDeviceCheckConstraintList(catalogue, Parameter, ValueToCheck);
 }
 
 } // namespace norvepa

@@ -23,13 +23,13 @@ struct Limits
     std::wstring base;
 };
 
-Limits LimitsOf(const wchar_t* logDevice, const wchar_t* parameter, const std::wstring& type)
+Limits LimitsOf(DeviceCatalogue& catalogue, const wchar_t* parameter, const std::wstring& type)
 {
-    Limits limits{type, ConstraintOrEmpty(logDevice, parameter, L"min"),
-                  ConstraintOrEmpty(logDevice, parameter, L"max"),
-                  ConstraintOrEmpty(logDevice, parameter, L"step"), L"10"};
+    Limits limits{type, ConstraintOrEmpty(catalogue, parameter, L"min"),
+                  ConstraintOrEmpty(catalogue, parameter, L"max"),
+                  ConstraintOrEmpty(catalogue, parameter, L"step"), L"10"};
     std::wstring base;
-    if (LogDeviceGetConstraint(logDevice, parameter, L"base", &base) == PGSP_OK)
+    if (LogDeviceGetConstraint(catalogue, parameter, L"base", &base) == PGSP_OK)
     {
         limits.base = base;
     }
@@ -37,7 +37,7 @@ Limits LimitsOf(const wchar_t* logDevice, const wchar_t* parameter, const std::w
 }
 
 // The words that stand for a value of the catalogue's.
-std::wstring Replaced(const wchar_t* logDevice, const wchar_t* parameter, const Limits& limits,
+std::wstring Replaced(DeviceCatalogue& catalogue, const wchar_t* parameter, const Limits& limits,
                       const std::wstring& value)
 {
     if (EqualNoCase(value, L"min"))
@@ -48,7 +48,7 @@ std::wstring Replaced(const wchar_t* logDevice, const wchar_t* parameter, const 
     {
         return limits.max;
     }
-    return EqualNoCase(value, L"default") ? ConstraintOrEmpty(logDevice, parameter, L"default") : value;
+    return EqualNoCase(value, L"default") ? ConstraintOrEmpty(catalogue, parameter, L"default") : value;
 }
 
 Result CheckBool(const ExportFrame& frame, const std::wstring& value)
@@ -103,7 +103,7 @@ double ConstraintTextToNumber(const std::wstring& text, std::wstring_view type, 
                                      : static_cast<double>(std::wcstoul(text.c_str(), nullptr, radix));
 }
 
-Result LogDeviceCheckValue(const wchar_t* LogDevice, const wchar_t* Parameter, std::wstring* value)
+Result LogDeviceCheckValue(DeviceCatalogue& catalogue, const wchar_t* Parameter, std::wstring* value)
 {
     const ExportFrame frame{"LogDeviceCheckValue: "};
 
@@ -112,15 +112,15 @@ Result LogDeviceCheckValue(const wchar_t* LogDevice, const wchar_t* Parameter, s
         NORV_TRACE(frame, TraceExit, "<< return PGSP_ERR_INVALID_PARAMETERS, invalid parameter sValue");
         return PGSP_ERR_INVALID_PARAMETERS;
     }
-    NORV_TRACE(frame, TraceEntry, ">> LogDevice = %s, Parameter = %s, Value = %s", TraceToAnsi(LogDevice),
-               TraceToAnsi(Parameter), TraceToAnsi(value->c_str()));
-    if (IsMissing(LogDevice) || IsMissing(Parameter))
+    NORV_TRACE(frame, TraceEntry, ">> LogDevice = %s, Parameter = %s, Value = %s",
+               TraceToAnsi(catalogue.logDevice()), TraceToAnsi(Parameter), TraceToAnsi(value->c_str()));
+    if (IsMissing(catalogue.logDevice()) || IsMissing(Parameter))
     {
         return frame.InvalidParameters();
     }
 
     std::wstring type;
-    if (LogDeviceGetConstraint(LogDevice, Parameter, L"type", &type) != PGSP_OK)
+    if (LogDeviceGetConstraint(catalogue, Parameter, L"type", &type) != PGSP_OK)
     {
         NORV_TRACE(frame, TraceExit,
                    "<< return PGSP_OK. Constraint not found, set value without Parameter Control");
@@ -135,19 +135,25 @@ Result LogDeviceCheckValue(const wchar_t* LogDevice, const wchar_t* Parameter, s
         return frame.Ok(); // a "string", or a word that nobody knows
     }
 
-    const Limits limits = LimitsOf(LogDevice, Parameter, type);
+    const Limits limits = LimitsOf(catalogue, Parameter, type);
     if (EqualNoCase(Parameter, L"baudrate") || EqualNoCase(Parameter, L"l4_timeout"))
     {
-        const Result result = LogDeviceCheckConstraintList(LogDevice, Parameter, value->c_str());
+        const Result result = LogDeviceCheckConstraintList(catalogue, Parameter, value->c_str());
         NORV_TRACE(frame, TraceExit, "<< return 0x%x", static_cast<unsigned>(result));
         return result;
     }
-    *value = Replaced(LogDevice, Parameter, limits, *value);
+    *value = Replaced(catalogue, Parameter, limits, *value);
     if (value->empty())
     {
         return frame.InvalidParameters();
     }
     return CheckBounds(frame, limits, *value);
+}
+
+Result LogDeviceCheckValue(const wchar_t* LogDevice, const wchar_t* Parameter, std::wstring* value)
+{
+    DeviceCatalogue catalogue(LogDevice);
+    return LogDeviceCheckValue(catalogue, Parameter, value);
 }
 
 } // namespace norvepa

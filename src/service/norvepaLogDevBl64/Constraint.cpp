@@ -1,42 +1,34 @@
 #include "frame/Arguments.h"
-#include "service/norvepaLogDevBl64/DeviceCatalogue.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 #include "store/norvxmlCatalogue.h"
 
 namespace norvepa
 {
 
-Result LogDeviceGetConstraint(const wchar_t* LogDevice, const wchar_t* Parameter, const wchar_t* Constraint,
+Result LogDeviceGetConstraint(DeviceCatalogue& catalogue, const wchar_t* Parameter, const wchar_t* Constraint,
                               std::wstring* value)
 {
     const ExportFrame frame{"LogDeviceGetConstraint: "};
 
     NORV_TRACE(frame, TraceEntry, ">> LogDevice = %s, Parameter = %s, Constraint = %s",
-               TraceToAnsi(LogDevice), TraceToAnsi(Parameter), TraceToAnsi(Constraint));
-    if (IsMissing(LogDevice) || IsMissing(Parameter) || IsMissing(Constraint) || value == nullptr)
+               TraceToAnsi(catalogue.logDevice()), TraceToAnsi(Parameter), TraceToAnsi(Constraint));
+    if (IsMissing(catalogue.logDevice()) || IsMissing(Parameter) || IsMissing(Constraint) || value == nullptr)
     {
         return frame.InvalidParameters();
     }
-    const std::wstring dataFolder = GetDataFolder();
-    if (dataFolder.empty())
+    if (const auto exit = catalogue.Unavailable(frame))
     {
-        return frame.FolderNotFound("Can not get ProgramData Path");
-    }
-    const std::wstring programFolder = GetProgramFolder();
-    if (programFolder.empty())
-    {
-        return NothingKnown(frame);
+        return *exit;
     }
 
-    const DeviceCatalogue files = CatalogueOf(frame, dataFolder, programFolder, LogDevice);
-    Result result = NorvXMLGetConstraint(files.board.c_str(), Parameter, Constraint, value);
+    Result result = NorvXMLGetConstraint(catalogue.board().c_str(), Parameter, Constraint, value);
     if (result != PGSP_OK)
     {
         NORV_TRACE(frame, TraceInfo,
                    "Constraint not found (Ret=0x%x) in the Boardfile=%s searching Protocol=%s",
-                   static_cast<unsigned>(result), TraceToAnsi(files.board.c_str()),
-                   TraceToAnsi(files.protocol.c_str()));
-        result = NorvXMLGetConstraint(files.protocol.c_str(), Parameter, Constraint, value);
+                   static_cast<unsigned>(result), TraceToAnsi(catalogue.board().c_str()),
+                   TraceToAnsi(catalogue.protocol().c_str()));
+        result = NorvXMLGetConstraint(catalogue.protocol().c_str(), Parameter, Constraint, value);
     }
     if (result != PGSP_OK)
     {
@@ -47,10 +39,18 @@ Result LogDeviceGetConstraint(const wchar_t* LogDevice, const wchar_t* Parameter
     return PGSP_OK;
 }
 
-std::wstring ConstraintOrEmpty(const wchar_t* logDevice, const wchar_t* parameter, const wchar_t* constraint)
+Result LogDeviceGetConstraint(const wchar_t* LogDevice, const wchar_t* Parameter, const wchar_t* Constraint,
+                              std::wstring* value)
+{
+    DeviceCatalogue catalogue(LogDevice);
+    return LogDeviceGetConstraint(catalogue, Parameter, Constraint, value);
+}
+
+std::wstring ConstraintOrEmpty(DeviceCatalogue& catalogue, const wchar_t* parameter,
+                               const wchar_t* constraint)
 {
     std::wstring value;
-    return LogDeviceGetConstraint(logDevice, parameter, constraint, &value) == PGSP_OK ? value
+    return LogDeviceGetConstraint(catalogue, parameter, constraint, &value) == PGSP_OK ? value
                                                                                        : std::wstring{};
 }
 

@@ -7,29 +7,57 @@
 namespace norvepa
 {
 
-DeviceCatalogue CatalogueOf(const ExportFrame& frame, std::wstring_view dataFolder,
-                            std::wstring_view programFolder, const wchar_t* logDevice)
+const std::wstring& DeviceCatalogue::dataFolder()
 {
-    const std::wstring file = LogDeviceFile(dataFolder, logDevice);
-    std::wstring deviceId;
-    std::wstring netType;
+    if (!m_dataFolder)
+    {
+        m_dataFolder = GetDataFolder();
+    }
+    return *m_dataFolder;
+}
+
+std::optional<Result> DeviceCatalogue::Unavailable(const ExportFrame& frame)
+{
+    if (dataFolder().empty())
+    {
+        return frame.FolderNotFound("Can not get ProgramData Path");
+    }
+    if (ProgramFolder().empty())
+    {
+        NORV_TRACE(frame, TraceInfo, "Can not get Corvane OAM path from Program Files");
+        return frame.Return(PGSP_OK);
+    }
+    if (m_board.empty())
+    {
+        ReadAttributes();
+    }
+    NORV_TRACE(frame, TraceInfo, "GetAttribute:   DeviceID=%s   NetType=%s", TraceToAnsi(m_deviceId.c_str()),
+               TraceToAnsi(m_netType.c_str()));
+    return std::nullopt;
+}
+
+const std::wstring& DeviceCatalogue::ProgramFolder()
+{
+    if (!m_programFolder)
+    {
+        m_programFolder = GetProgramFolder();
+    }
+    return *m_programFolder;
+}
+
+void DeviceCatalogue::ReadAttributes()
+{
+    const std::wstring file = LogDeviceFile(dataFolder(), m_logDevice);
     static_cast<void>(
-        NorvXMLElementGetAttributes(file.c_str(), {{L"DeviceID", &deviceId}, {L"CP_TYPE", &netType}}));
-    NORV_TRACE(frame, TraceInfo, "GetAttribute:   DeviceID=%s   NetType=%s", TraceToAnsi(deviceId.c_str()),
-               TraceToAnsi(netType.c_str()));
+        NorvXMLElementGetAttributes(file.c_str(), {{L"DeviceID", &m_deviceId}, {L"CP_TYPE", &m_netType}}));
 
     // The prefix goes ahead of whatever the device names, also of a name that has it already.
     std::wstring board(BoardPrefix);
-    board += std::wstring_view(deviceId).substr(deviceId.starts_with(L'*') ? 1 : 0);
+    board += std::wstring_view(m_deviceId).substr(m_deviceId.starts_with(L'*') ? 1 : 0);
     std::wstring protocol(ProtocolPrefix);
-    protocol += netType;
-    return {BoardFile(programFolder, board), ProtocolFile(programFolder, protocol)};
-}
-
-Result NothingKnown(const ExportFrame& frame)
-{
-    NORV_TRACE(frame, TraceInfo, "Can not get Corvane OAM path from Program Files");
-    return frame.Return(PGSP_OK);
+    protocol += m_netType;
+    m_board = BoardFile(ProgramFolder(), board);
+    m_protocol = ProtocolFile(ProgramFolder(), protocol);
 }
 
 } // namespace norvepa

@@ -11,15 +11,15 @@ namespace
 {
 
 // From where the catalogue says, or else from the first section that holds the parameter.
-Result ReadParameter(const std::wstring& file, const wchar_t* logDevice, const wchar_t* parameter,
+Result ReadParameter(DeviceCatalogue& catalogue, const std::wstring& file, const wchar_t* parameter,
                      wchar_t* value, std::uint32_t* length)
 {
-    std::wstring section = ConstraintOrEmpty(logDevice, parameter, L"section");
+    std::wstring section = ConstraintOrEmpty(catalogue, parameter, L"section");
     if (section.empty())
     {
         section = FindEntry(file, parameter, LastReadSection).section;
     }
-    const std::wstring map = ConstraintOrEmpty(logDevice, parameter, L"map");
+    const std::wstring map = ConstraintOrEmpty(catalogue, parameter, L"map");
     return NorvXMLGetValueBuffer(file.c_str(), section.c_str(), map.empty() ? parameter : map.c_str(), value,
                                  length);
 }
@@ -41,11 +41,11 @@ Result Deliver(const ExportFrame& frame, const wchar_t* logDevice, Result result
     return frame.Return(result);
 }
 
-Result DeliverDefault(const ExportFrame& frame, const wchar_t* logDevice, const wchar_t* parameter,
+Result DeliverDefault(const ExportFrame& frame, DeviceCatalogue& catalogue, const wchar_t* parameter,
                       wchar_t* value, std::uint32_t* length)
 {
     std::wstring text;
-    const Result result = LogDeviceGetConstraint(logDevice, parameter, L"default", &text);
+    const Result result = LogDeviceGetConstraint(catalogue, parameter, L"default", &text);
     if (result != PGSP_OK)
     {
         NORV_TRACE(frame, TraceExit, "<< return PGSP_ERR_PARAM_NOT_FOUND");
@@ -53,7 +53,7 @@ Result DeliverDefault(const ExportFrame& frame, const wchar_t* logDevice, const 
     }
     NORV_TRACE(frame, TraceInfo, "Parameter was not found lRet = %d", result);
     NORV_TRACE(frame, TraceInfo, "Use default value: %s", TraceToAnsi(text.c_str()));
-    return Deliver(frame, logDevice, result, text, value, length);
+    return Deliver(frame, catalogue.logDevice(), result, text, value, length);
 }
 
 } // namespace
@@ -86,9 +86,10 @@ int32_t LogDeviceGetValueBL(const wchar_t* LogDevice, const wchar_t* Parameter, 
         }
 
         const std::wstring file = LogDeviceFile(dataFolder, LogDevice);
+        DeviceCatalogue catalogue(LogDevice, dataFolder);
         const Result result = IsRootAttribute(parameter)
                                   ? NorvXMLElementGetAttribute(file.c_str(), parameter, Value, dwValue)
-                                  : ReadParameter(file, LogDevice, parameter, Value, dwValue);
+                                  : ReadParameter(catalogue, file, parameter, Value, dwValue);
         switch (result)
         {
         case PGSP_OK:
@@ -100,7 +101,7 @@ int32_t LogDeviceGetValueBL(const wchar_t* LogDevice, const wchar_t* Parameter, 
         case PGSP_ERR_CANT_LOAD_XML_FILE:
             return Deliver(frame, LogDevice, result, {}, Value, dwValue);
         default:
-            return DeliverDefault(frame, LogDevice, parameter, Value, dwValue);
+            return DeliverDefault(frame, catalogue, parameter, Value, dwValue);
         }
     });
 }

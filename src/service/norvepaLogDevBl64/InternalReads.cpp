@@ -15,15 +15,15 @@ constexpr std::array<const wchar_t*, 5> SectionsWithSpare{L"DeviceHeader", L"Loc
 
 // An attribute of the root, or else a parameter of the section that the catalogue names, by the name that it
 // maps to. The sections aren't searched: without a word of the catalogue it is `SpareSection`.
-Result ReadByCatalogue(const std::wstring& file, const wchar_t* logDevice, const wchar_t* parameter,
+Result ReadByCatalogue(DeviceCatalogue& catalogue, const std::wstring& file, const wchar_t* parameter,
                        std::wstring* value)
 {
     if (NorvXMLElementGetAttribute(file.c_str(), parameter, value) == PGSP_OK)
     {
         return PGSP_OK;
     }
-    const std::wstring section = ConstraintOrEmpty(logDevice, parameter, L"section");
-    const std::wstring map = ConstraintOrEmpty(logDevice, parameter, L"map");
+    const std::wstring section = ConstraintOrEmpty(catalogue, parameter, L"section");
+    const std::wstring map = ConstraintOrEmpty(catalogue, parameter, L"map");
     return NorvXMLGetValue(file.c_str(), section.c_str(), map.empty() ? parameter : map.c_str(), value);
 }
 
@@ -60,11 +60,12 @@ Result LogDeviceGetValue(const wchar_t* LogDevice, const wchar_t* Parameter, std
         return PGSP_OK; // the one read that takes this for an empty value
     }
 
-    Result result = ReadByCatalogue(LogDeviceFile(dataFolder, LogDevice), LogDevice, Parameter, value);
+    DeviceCatalogue catalogue(LogDevice, dataFolder);
+    Result result = ReadByCatalogue(catalogue, LogDeviceFile(dataFolder, LogDevice), Parameter, value);
     if (result != PGSP_OK)
     {
         NORV_TRACE(frame, TraceInfo, "Use default value, Parameter was not found lRet = %d", result);
-        result = LogDeviceGetConstraint(LogDevice, Parameter, L"default", value);
+        result = LogDeviceGetConstraint(catalogue, Parameter, L"default", value);
     }
     if (result != PGSP_OK)
     {

@@ -11,19 +11,19 @@ namespace
 {
 
 // Of the catalogue, or else the word of the element that the parameter stands in.
-std::wstring TypeOf(const std::wstring& file, const wchar_t* logDevice, const wchar_t* parameter)
+std::wstring TypeOf(DeviceCatalogue& catalogue, const std::wstring& file, const wchar_t* parameter)
 {
-    const std::wstring type = ConstraintOrEmpty(logDevice, parameter, L"type");
+    const std::wstring type = ConstraintOrEmpty(catalogue, parameter, L"type");
     return type.empty() ? FindEntry(file, parameter, LastWrittenSection).element : type;
 }
 
-Result WriteParameter(const ExportFrame& frame, const std::wstring& file, const wchar_t* logDevice,
+Result WriteParameter(const ExportFrame& frame, DeviceCatalogue& catalogue, const std::wstring& file,
                       const wchar_t* parameter, const std::wstring& value, const std::wstring& type)
 {
     NORV_TRACE(frame, TraceInfo, "No Subdevice");
-    const std::wstring map = ConstraintOrEmpty(logDevice, parameter, L"map");
+    const std::wstring map = ConstraintOrEmpty(catalogue, parameter, L"map");
     const wchar_t* const storedName = map.empty() ? parameter : map.c_str();
-    std::wstring section = ConstraintOrEmpty(logDevice, parameter, L"section");
+    std::wstring section = ConstraintOrEmpty(catalogue, parameter, L"section");
     if (section.empty())
     {
         section = FindEntry(file, storedName, LastWrittenSection).section;
@@ -59,20 +59,21 @@ int32_t LogDeviceSetValueBL(const wchar_t* LogDevice, const wchar_t* Parameter, 
         }
 
         // What the check makes of the value is what is stored.
+        DeviceCatalogue catalogue(LogDevice);
         std::wstring value = Value;
-        if (const Result result = LogDeviceCheckValue(LogDevice, parameter, &value); result != PGSP_OK)
+        if (const Result result = LogDeviceCheckValue(catalogue, parameter, &value); result != PGSP_OK)
         {
             return frame.Return(result);
         }
 
         // Without a data folder the path is relative; no code tells that here.
-        const std::wstring dataFolder = GetDataFolder();
+        const std::wstring& dataFolder = catalogue.dataFolder();
         const std::wstring file = LogDeviceFile(dataFolder, LogDevice);
-        const std::wstring type = TypeOf(file, LogDevice, parameter);
+        const std::wstring type = TypeOf(catalogue, file, parameter);
         const auto subdevice = SplitSubdevice(LogDevice);
         const Result result = subdevice
                                   ? WriteSubdevice(frame, dataFolder, *subdevice, parameter, value, type)
-                                  : WriteParameter(frame, file, LogDevice, parameter, value, type);
+                                  : WriteParameter(frame, catalogue, file, parameter, value, type);
         if (result == PGSP_OK)
         {
             SendNotificationBL(LogDevicesWord, subdevice ? subdevice->asGiven.c_str() : LogDevice, L"5");
@@ -97,7 +98,8 @@ int32_t LogDeviceDelValueBL(const wchar_t* LogDevice, const wchar_t* Parameter)
         }
 
         // Only the catalogue names the section: the file isn't searched, and there is no mapped name.
-        const std::wstring section = ConstraintOrEmpty(LogDevice, Parameter, L"section");
+        DeviceCatalogue catalogue(LogDevice, dataFolder);
+        const std::wstring section = ConstraintOrEmpty(catalogue, Parameter, L"section");
         const std::wstring file = LogDeviceFile(dataFolder, LogDevice);
         Result result = NorvXMLDelValue(file.c_str(), section.c_str(), Parameter);
         if (result == PGSP_OK)

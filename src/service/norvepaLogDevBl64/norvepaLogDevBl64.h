@@ -8,6 +8,7 @@
 
 #include "frame/ExportFrame.h"
 #include "frame/StoreLocations.h"
+#include "service/norvepaLogDevBl64/DeviceCatalogue.h"
 
 #include <array>
 #include <cstdint>
@@ -50,21 +51,27 @@ struct SubdeviceName
 // One word of what the board, or else the protocol, of a log device says about a parameter. PGSP_OK,
 // PGSP_ERR_INVALID_PARAMETERS, PGSP_ERR_PARAM_NOT_FOUND, PGSP_ERR_FOLDER_NOT_FOUND without a data folder.
 // Without a program folder it answers PGSP_OK and leaves `value` alone.
+[[nodiscard]] Result LogDeviceGetConstraint(DeviceCatalogue& catalogue, const wchar_t* Parameter,
+                                            const wchar_t* Constraint, std::wstring* value);
 [[nodiscard]] Result LogDeviceGetConstraint(const wchar_t* LogDevice, const wchar_t* Parameter,
                                             const wchar_t* Constraint, std::wstring* value);
 
 // The same where a failure counts as an empty word.
-[[nodiscard]] std::wstring ConstraintOrEmpty(const wchar_t* logDevice, const wchar_t* parameter,
+[[nodiscard]] std::wstring ConstraintOrEmpty(DeviceCatalogue& catalogue, const wchar_t* parameter,
                                              const wchar_t* constraint);
 
 // Checks a value against type, bounds and step, and replaces "min", "max" and "default" by what they stand
 // for: what `value` holds afterwards is what is to be stored. PGSP_OK also for a parameter that the catalogue
 // doesn't know; PGSP_ERR_INVALID_PARAMETERS, PGSP_NOT_IN_LIST, PGSP_NOT_A_BOOL, PGSP_SET_VAL_LESS_THAN_MIN,
 // PGSP_SET_VAL_BIGGER_THAN_MAX, PGSP_NOT_IN_STEP, PGSP_ERR_FOLDER_NOT_FOUND.
+[[nodiscard]] Result LogDeviceCheckValue(DeviceCatalogue& catalogue, const wchar_t* Parameter,
+                                         std::wstring* value);
 [[nodiscard]] Result LogDeviceCheckValue(const wchar_t* LogDevice, const wchar_t* Parameter,
                                          std::wstring* value);
 
 // Checks a value of `baudrate` or `l4_timeout` against the list of allowed ones; any other parameter passes.
+[[nodiscard]] Result LogDeviceCheckConstraintList(DeviceCatalogue& catalogue, const wchar_t* Parameter,
+                                                  const wchar_t* ValueToCheck);
 [[nodiscard]] Result LogDeviceCheckConstraintList(const wchar_t* LogDevice, const wchar_t* Parameter,
                                                   const wchar_t* ValueToCheck);
 
