@@ -1,5 +1,7 @@
 #include "EnumByDeviceIdScene.h"
+#include "support/Eventually.h"
 
+#include <algorithm>
 #include <atomic>
 #include <functional>
 #include <initializer_list>
@@ -65,6 +67,22 @@ protected:
         }
     }
 
+    // A file that is being moved may be closed to its readers, and a log device that couldn't be read stays
+    // out of the index until the next change: so another one is made now and then.
+    [[nodiscard]] bool BecomesInTheEnd(const Entries& entries) const
+    {
+        int attempts = 0;
+        return Eventually([&] {
+            if (++attempts % 200 == 0)
+            {
+                store.WriteDevice(L"without unit " + std::to_wstring(attempts), XmlContent());
+            }
+            const Entries found = All(L"AFK110");
+            return found.size() == entries.size() &&
+                   std::is_permutation(found.begin(), found.end(), entries.begin());
+        });
+    }
+
     const std::wstring guest = Prepare(L"guest", L"unit of guest");
     const Entries alone{{L"steady", L"unit of steady"}};
     const Entries together{{L"steady", L"unit of steady"}, {L"guest", L"unit of guest"}};
@@ -79,9 +97,9 @@ TEST_F(EnumByDeviceIdUnderLoad, SeesEachDeviceComeAndGo)
         for (int round = 0; round < Rounds; ++round)
         {
             Move(peer, guest, roots.logDevice(L"guest"));
-            EXPECT_TRUE(Becomes(together));
+            EXPECT_TRUE(BecomesInTheEnd(together));
             Move(peer, roots.logDevice(L"guest"), guest);
-            EXPECT_TRUE(Becomes(alone));
+            EXPECT_TRUE(BecomesInTheEnd(alone));
         }
     });
 

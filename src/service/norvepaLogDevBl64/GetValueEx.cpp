@@ -69,10 +69,7 @@ int32_t LogDeviceGetValueExBL(const wchar_t* LogDevice, const wchar_t* Section, 
         if (const auto name = SplitSubdevice(LogDevice))
         {
             std::wstring text;
-            const Result result = NorvXMLGetSubdevValue(LogDeviceFile(dataFolder, name->device).c_str(),
-                                                        name->subdevice.c_str(), parameter, &text);
-            NORV_TRACE(frame, TraceInfo, "<< Returned Value = %s, from Subdevice: %s",
-                       TraceToAnsi(text.c_str()), TraceToAnsi(name->subdevice.c_str()));
+            const Result result = ReadSubdevice(frame, dataFolder, *name, parameter, text);
             return DeliverAnyway(frame, result, text, Value, dwValue);
         }
 

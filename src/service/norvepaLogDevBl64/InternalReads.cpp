@@ -111,4 +111,14 @@ Result LogDeviceGetNdiValue(const wchar_t* LogDevice, const wchar_t* Parameter, 
     return NorvXMLGetValue(LogDeviceFile(dataFolder, LogDevice).c_str(), L"Ndi", Parameter, value);
 }
 
+Result ReadSubdevice(const ExportFrame& frame, std::wstring_view dataFolder, const SubdeviceName& name,
+                     const wchar_t* parameter, std::wstring& value)
+{
+    const Result result = NorvXMLGetSubdevValue(LogDeviceFile(dataFolder, name.device).c_str(),
+                                                name.subdevice.c_str(), parameter, &value);
+    NORV_TRACE(frame, TraceInfo, "<< Returned Value = %s, from Subdevice: %s", TraceToAnsi(value.c_str()),
+               TraceToAnsi(name.subdevice.c_str()));
+    return result;
+}
+
 } // namespace norvepa

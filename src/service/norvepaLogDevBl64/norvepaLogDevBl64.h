@@ -94,4 +94,8 @@ struct SubdeviceName
 [[nodiscard]] Result LogDeviceGetNdiValue(const wchar_t* LogDevice, const wchar_t* Parameter,
                                           std::wstring* value);
 
+// A parameter of a subdevice, traced for the export that reads it, also when it can't be read.
+[[nodiscard]] Result ReadSubdevice(const ExportFrame& frame, std::wstring_view dataFolder,
+                                   const SubdeviceName& name, const wchar_t* parameter, std::wstring& value);
+
 } // namespace norvepa
