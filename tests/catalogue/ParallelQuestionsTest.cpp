@@ -1,9 +1,8 @@
 #include "catalogue/CatalogueScene.h"
 #include "catalogue/EveryQuestion.h"
+#include "support/AllAtOnce.h"
 
 #include <atomic>
-#include <latch>
-#include <thread>
 #include <vector>
 
 namespace norvepa::test
@@ -23,26 +22,20 @@ TEST_F(ParallelQuestions, AreAnsweredAsASingleOneIs)
     const std::vector<Question> questions =
         QuestionsSeeing({Sight::Now, Sight::Parsed, Sight::Answered, Sight::Remembered});
     const std::wstring file = File(FileAnswering(L"yes"));
-    std::latch start(Threads);
     std::atomic<int> wrong = 0;
     std::atomic<int> right = 0;
 
-    std::vector<std::jthread> threads;
-    for (std::size_t first = 0; first < Threads; ++first)
-    {
-        threads.emplace_back([&, first] {
-            start.arrive_and_wait();
-            for (std::size_t step = 0; step < Rounds * questions.size(); ++step)
-            {
-                const Question& question = questions[(first * 3 + step) % questions.size()];
-                ++(question.ask(file.c_str(), L"yes") == PGSP_OK ? right : wrong);
-                const PairAnswer last =
-                    PairOf([&](const PairBuffers& pair) { return NorvXMLEnumValue(file.c_str(), 99, pair); });
-                ++(last == NoPair() ? right : wrong);
-            }
-        });
-    }
-    threads.clear();
+    AllAtOnce(Threads, [&](int thread) {
+        const std::size_t first = static_cast<std::size_t>(thread) * 3;
+        for (std::size_t step = 0; step < Rounds * questions.size(); ++step)
+        {
+            const Question& question = questions[(first + step) % questions.size()];
+            ++(question.ask(file.c_str(), L"yes") == PGSP_OK ? right : wrong);
+            const PairAnswer last =
+                PairOf([&](const PairBuffers& pair) { return NorvXMLEnumValue(file.c_str(), 99, pair); });
+            ++(last == NoPair() ? right : wrong);
+        }
+    });
 
     EXPECT_EQ(wrong, 0);
     EXPECT_EQ(right, 2 * Threads * Rounds * static_cast<int>(questions.size()));

@@ -1,9 +1,6 @@
 #include "SetScene.h"
+#include "support/AllAtOnce.h"
 #include "support/XmlMeaning.h"
-
-#include <latch>
-#include <list>
-#include <thread>
 
 namespace norvepa::test
 {
@@ -16,24 +13,7 @@ protected:
     static constexpr int Threads = 4;
     static constexpr int Rounds = 7;
 
-    // Runs a body on threads without COM that begin at one moment, each with a device of its own.
-    template <typename Body>
-    static void Together(const Body& body)
-    {
-        std::latch start(Threads);
-        std::list<std::thread> threads;
-        for (int i = 0; i < Threads; ++i)
-        {
-            threads.emplace_back([&, i] {
-                start.arrive_and_wait();
-                body(L"Anlage " + std::to_wstring(i));
-            });
-        }
-        for (std::thread& thread : threads)
-        {
-            thread.join();
-        }
-    }
+    [[nodiscard]] static std::wstring DeviceOf(int thread) { return L"Anlage " + std::to_wstring(thread); }
 
     [[nodiscard]] std::int32_t SetOf(const std::wstring& logDevice, const wchar_t* parameter,
                                      const std::wstring& value) const
@@ -51,11 +31,11 @@ TEST_F(SetUnderLoad, ChecksEachValueOfEachDevice)
                                     XmlContent().ValueCollection({L"9600/slow", L"19200/fast"})));
     for (int i = 0; i < Threads; ++i)
     {
-        store.WriteDevice(L"Anlage " + std::to_wstring(i),
-                          XmlContent().Element(L"SpareSection", XmlContent()));
+        store.WriteDevice(DeviceOf(i), XmlContent().Element(L"SpareSection", XmlContent()));
     }
 
-    Together([&](const std::wstring& device) {
+    AllAtOnce(Threads, [&](int thread) {
+        const std::wstring device = DeviceOf(thread);
         for (int round = 1; round <= Rounds; ++round)
         {
             EXPECT_EQ(SetOf(device, L"Stufe", std::to_wstring(round)), PGSP_OK);
@@ -69,7 +49,7 @@ TEST_F(SetUnderLoad, ChecksEachValueOfEachDevice)
         L"SpareSection", XmlContent().Int(L"Stufe", std::to_wstring(Rounds)).Int(L"baudrate", L"19200"))));
     for (int i = 0; i < Threads; ++i)
     {
-        EXPECT_EQ(store.Saved(L"Anlage " + std::to_wstring(i)), expected);
+        EXPECT_EQ(store.Saved(DeviceOf(i)), expected);
     }
 }
 

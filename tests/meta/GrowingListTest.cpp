@@ -1,9 +1,9 @@
 #include "meta/GrowingList.h"
 
+#include "support/AllAtOnce.h"
+
 #include <gmock/gmock.h>
-#include <latch>
 #include <memory>
-#include <thread>
 #include <vector>
 
 namespace norvepa
@@ -91,20 +91,13 @@ TEST(GrowingList, TakesItsThingsAlongWhenItGoes)
 TEST(GrowingList, LosesNothingOfRacingAppends)
 {
     GrowingList<int> list(Threads * Appends);
-    std::latch start(Threads);
 
-    std::vector<std::jthread> threads;
-    for (int thread = 0; thread < Threads; ++thread)
-    {
-        threads.emplace_back([&, thread] {
-            start.arrive_and_wait();
-            for (int i = 0; i < Appends; ++i)
-            {
-                list.Append(thread * Appends + i);
-            }
-        });
-    }
-    threads.clear();
+    test::AllAtOnce(Threads, [&](int thread) {
+        for (int i = 0; i < Appends; ++i)
+        {
+            list.Append(thread * Appends + i);
+        }
+    });
 
     // Each number is there once, those of one thread in their order.
     std::vector<int> next(Threads, 0);
@@ -121,20 +114,13 @@ TEST(GrowingList, TakesNoMoreThanItsCapacityOfRacingAppends)
 {
     constexpr int capacity = 1'000;
     GrowingList<int> list(capacity);
-    std::latch start(Threads);
 
-    std::vector<std::jthread> threads;
-    for (int thread = 0; thread < Threads; ++thread)
-    {
-        threads.emplace_back([&] {
-            start.arrive_and_wait();
-            for (int i = 0; i < capacity; ++i)
-            {
-                list.Append(i);
-            }
-        });
-    }
-    threads.clear();
+    test::AllAtOnce(Threads, [&](int) {
+        for (int i = 0; i < capacity; ++i)
+        {
+            list.Append(i);
+        }
+    });
 
     EXPECT_EQ(All(list).size(), std::size_t{capacity});
 }

@@ -1,7 +1,9 @@
 #include "meta/Published.h"
 
+#include "support/AllAtOnce.h"
+
+#include <atomic>
 #include <gmock/gmock.h>
-#include <latch>
 #include <stdexcept>
 #include <thread>
 #include <vector>
@@ -111,23 +113,16 @@ TEST(Published, CallsTheChangeAgainWithWhatAFasterOneMade)
 TEST(Published, LosesNothingOfRacingUpdates)
 {
     Published<Numbers> numbers;
-    std::latch start(Threads);
 
-    std::vector<std::jthread> threads;
-    for (int thread = 0; thread < Threads; ++thread)
-    {
-        threads.emplace_back([&, thread] {
-            start.arrive_and_wait();
-            for (int i = 0; i < Updates; ++i)
-            {
-                numbers.Update([&](Numbers& list) {
-                    list.push_back(thread * Updates + i);
-                    return true;
-                });
-            }
-        });
-    }
-    threads.clear();
+    test::AllAtOnce(Threads, [&](int thread) {
+        for (int i = 0; i < Updates; ++i)
+        {
+            numbers.Update([&](Numbers& list) {
+                list.push_back(thread * Updates + i);
+                return true;
+            });
+        }
+    });
 
     // Each number is there once, those of one thread in their order.
     Numbers next(Threads, 0);
@@ -145,31 +140,26 @@ TEST(Published, LendsNothingHalfMadeToRacingReaders)
     Published<Numbers> numbers; // always as many as the first one says
     std::atomic<bool> isOver = false;
     std::atomic<int> halfMade = 0;
-    std::latch start(Threads);
+    const auto read = [&] {
+        while (!isOver)
+        {
+            const auto lent = numbers.Get();
+            halfMade += !lent->empty() && *lent != Numbers(lent->size(), static_cast<int>(lent->size()));
+        }
+    };
+    const auto write = [&] {
+        for (int size = 1; size <= Updates; ++size)
+        {
+            numbers.Update([=](Numbers& list) {
+                list.clear();
+                list.resize(static_cast<std::size_t>(size), size);
+                return true;
+            });
+        }
+        isOver = true;
+    };
 
-    std::vector<std::jthread> readers;
-    for (int i = 1; i < Threads; ++i)
-    {
-        readers.emplace_back([&] {
-            start.arrive_and_wait();
-            while (!isOver)
-            {
-                const auto lent = numbers.Get();
-                halfMade += !lent->empty() && *lent != Numbers(lent->size(), static_cast<int>(lent->size()));
-            }
-        });
-    }
-    start.arrive_and_wait();
-    for (int size = 1; size <= Updates; ++size)
-    {
-        numbers.Update([=](Numbers& list) {
-            list.clear();
-            list.resize(static_cast<std::size_t>(size), size);
-            return true;
-        });
-    }
-    isOver = true;
-    readers.clear();
+    test::AllAtOnce(Threads, [&](int thread) { thread == 0 ? write() : read(); });
 
     EXPECT_EQ(halfMade, 0);
     EXPECT_THAT(numbers.Get(), Pointee(testing::SizeIs(Updates)));

@@ -2,15 +2,13 @@
 #include "meta/MetaScene.h"
 #include "meta/cMetaFiles.h"
 #include "store/norvxmlCatalogue.h"
+#include "support/AllAtOnce.h"
 #include "support/OutputBuffer.h"
 
 #include <windows.h>
 
 #include <array>
 #include <atomic>
-#include <functional>
-#include <latch>
-#include <thread>
 #include <vector>
 
 namespace norvepa::test
@@ -20,20 +18,6 @@ namespace
 
 constexpr int Threads = 8;
 constexpr ULONGLONG Duration = 3'000; // milliseconds
-
-// Runs a body on all threads at once; it is told the thread's number.
-void Race(const std::function<void(int)>& body)
-{
-    std::latch start(Threads);
-    std::vector<std::jthread> threads;
-    for (int thread = 0; thread < Threads; ++thread)
-    {
-        threads.emplace_back([&, thread] {
-            start.arrive_and_wait();
-            body(thread);
-        });
-    }
-}
 
 class RacingQueries : public MetaScene
 {
@@ -130,7 +114,7 @@ TEST_F(RacingQueries, AnswerRightWhileDocumentsAndAnswersComeAndGo)
     std::atomic<int> rounds = 0;
     const ULONGLONG begin = GetTickCount64();
 
-    Race([&](int thread) {
+    AllAtOnce(Threads, [&](int thread) {
         for (int round = 0; GetTickCount64() - begin < Duration; ++round)
         {
             wrong += WrongAnswers(round % Files, round % Sections);
@@ -153,7 +137,7 @@ TEST_F(RacingQueries, FindOneDocumentAtTheFirstLoad)
         MetaDropAllDocuments();
         std::array<MetaDocument, Threads> documents;
 
-        Race([&](int thread) {
+        AllAtOnce(Threads, [&](int thread) {
             documents[static_cast<std::size_t>(thread)] = MetaGetDocument(folder() / Name(load % Files));
         });
 
@@ -167,7 +151,7 @@ TEST_F(RacingQueries, AllRememberWhatTheyFound)
     constexpr int each = 100;
     const std::wstring path = folder() / L"racing";
 
-    Race([&](int thread) {
+    AllAtOnce(Threads, [&](int thread) {
         for (int i = 0; i < each; ++i)
         {
             InsertConstraintToCachedMetaFile(path, std::to_wstring(thread), std::to_wstring(i),
