@@ -10,6 +10,12 @@ namespace norvepa
 
 Result NorvXMLEnumFile(const wchar_t* folderPath, std::uint32_t index, std::wstring* name)
 {
+    return NorvXMLEnumFile(folderPath, GetDataFolder(), index, name);
+}
+
+Result NorvXMLEnumFile(const wchar_t* folderPath, const std::wstring& dataFolder, std::uint32_t index,
+                       std::wstring* name)
+{
     constexpr TraceSource source{"NorvXMLEnumFile: ", "XML"};
 
     NORV_TRACE(source, TraceEntry, ">> folderPath = %s, index = %d", TraceToAnsi(folderPath), index);
@@ -27,7 +33,7 @@ Result NorvXMLEnumFile(const wchar_t* folderPath, std::uint32_t index, std::wstr
 
     // A folder that can't be read is one without files.
     std::shared_ptr<const DirectoryListing> listing;
-    if (getDirectoryContent(folderPath, GetDataFolder(), listing) != PGSP_OK || index >= listing->size())
+    if (getDirectoryContent(folderPath, dataFolder, listing) != PGSP_OK || index >= listing->size())
     {
         return PGSP_ERR_NO_MORE_ITEMS;
     }

@@ -1,5 +1,7 @@
 #include "support/Peer.h"
 
+#include <iostream>
+
 #include <filesystem>
 #include <stdexcept>
 #include <utility>
@@ -38,6 +40,23 @@ std::pair<HANDLE, HANDLE> MakePipe(bool peerReads)
 
 Peer::Peer(const std::wstring& program, const RedirectedRegistry& registry)
 {
+    Start(program, registry);
+    if (IsReady())
+    {
+        return;
+    }
+    std::cerr << "a peer has ended ahead of its first line, once more" << std::endl;
+    Release();
+    Start(program, registry);
+    if (!IsReady())
+    {
+        Release();
+        throw std::runtime_error("the peer doesn't become ready");
+    }
+}
+
+void Peer::Start(const std::wstring& program, const RedirectedRegistry& registry)
+{
     const auto [peerInput, input] = MakePipe(true);
     const auto [peerOutput, output] = MakePipe(false);
     m_input = input;
@@ -68,6 +87,11 @@ Peer::Peer(const std::wstring& program, const RedirectedRegistry& registry)
 
 Peer::~Peer()
 {
+    Release();
+}
+
+void Peer::Release()
+{
     CloseHandle(m_input);
     if (WaitForSingleObject(m_process, Patience) != WAIT_OBJECT_0)
     {
@@ -75,6 +99,18 @@ Peer::~Peer()
     }
     CloseHandle(m_process);
     CloseHandle(m_output);
+}
+
+bool Peer::IsReady()
+{
+    try
+    {
+        return Answer() == PeerIsReady;
+    }
+    catch (const std::runtime_error&)
+    {
+        return false;
+    }
 }
 
 std::string Peer::Ask(const std::string& command)

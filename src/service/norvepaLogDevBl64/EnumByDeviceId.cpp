@@ -2,6 +2,7 @@
 #include "norvepa.h"
 #include "notify/DeviceIdIndex.h"
 #include "notify/directoryCache.h"
+#include "service/norvepaLogDevBl64/DeviceWalk.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 
 using namespace norvepa;
@@ -31,17 +32,23 @@ void AddToIndex(const std::wstring& logDevice)
     }
 }
 
+// The enumeration of all log devices in one walk, traced as the calls that it stands for. Calls would begin
+// anew for each index and read a thousand log devices half a million times, under the lock.
 void Rebuild()
 {
-    std::array<wchar_t, PathCapacity> name{};
+    const ExportFrame enumeration{"LogDeviceGetEnumBL: "};
+    DeviceWalk walk(enumeration, nullptr, PathCapacity);
+    std::wstring name;
     for (std::uint32_t index = 0;; ++index)
     {
-        std::uint32_t length = PathCapacity;
-        if (LogDeviceGetEnumBL(nullptr, index, name.data(), &length) != PGSP_OK)
+        TraceEnumEntry(enumeration, nullptr, index);
+        if (const Result result = walk.Next(name); result != PGSP_OK)
         {
+            TraceEnumEnd(enumeration, result);
             return; // what has been gathered is the index, whatever ended it
         }
-        AddToIndex(Filled(name, length));
+        TraceEnumFound(enumeration, name, index);
+        AddToIndex(name);
     }
 }
 

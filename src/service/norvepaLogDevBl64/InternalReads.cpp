@@ -78,6 +78,12 @@ Result LogDeviceGetValue(const wchar_t* LogDevice, const wchar_t* Parameter, std
 
 Result PGSP_LogDeviceGetValue(const wchar_t* LogDevice, const wchar_t* Parameter, std::wstring* value)
 {
+    return PGSP_LogDeviceGetValue(GetDataFolder(), LogDevice, Parameter, value);
+}
+
+Result PGSP_LogDeviceGetValue(const std::wstring& dataFolder, const wchar_t* LogDevice,
+                              const wchar_t* Parameter, std::wstring* value)
+{
     const ExportFrame frame{"PGSP_LogDeviceGetValue: "};
 
     NORV_TRACE(frame, TraceEntry, ">> LogDevice = %s, Parameter = %s", TraceToAnsi(LogDevice),
@@ -86,7 +92,6 @@ Result PGSP_LogDeviceGetValue(const wchar_t* LogDevice, const wchar_t* Parameter
     {
         return frame.InvalidParameters();
     }
-    const std::wstring dataFolder = GetDataFolder();
     if (dataFolder.empty())
     {
         return frame.FolderNotFound("Can not get ProgramData Path");
@@ -99,11 +104,16 @@ Result PGSP_LogDeviceGetValue(const wchar_t* LogDevice, const wchar_t* Parameter
 
 Result LogDeviceGetNdiValue(const wchar_t* LogDevice, const wchar_t* Parameter, std::wstring* value)
 {
+    return LogDeviceGetNdiValue(GetDataFolder(), LogDevice, Parameter, value);
+}
+
+Result LogDeviceGetNdiValue(const std::wstring& dataFolder, const wchar_t* LogDevice,
+                            const wchar_t* Parameter, std::wstring* value)
+{
     if (IsMissing(LogDevice) || IsMissing(Parameter) || value == nullptr)
     {
         return PGSP_ERR_INVALID_PARAMETERS;
     }
-    const std::wstring dataFolder = GetDataFolder();
     if (dataFolder.empty())
     {
         return PGSP_ERR_FOLDER_NOT_FOUND;

@@ -89,10 +89,14 @@ struct SubdeviceName
 // catalogue isn't asked.
 [[nodiscard]] Result PGSP_LogDeviceGetValue(const wchar_t* LogDevice, const wchar_t* Parameter,
                                             std::wstring* value);
+[[nodiscard]] Result PGSP_LogDeviceGetValue(const std::wstring& dataFolder, const wchar_t* LogDevice,
+                                            const wchar_t* Parameter, std::wstring* value);
 
 // A parameter of the section `Ndi`, without a word in the trace.
 [[nodiscard]] Result LogDeviceGetNdiValue(const wchar_t* LogDevice, const wchar_t* Parameter,
                                           std::wstring* value);
+[[nodiscard]] Result LogDeviceGetNdiValue(const std::wstring& dataFolder, const wchar_t* LogDevice,
+                                          const wchar_t* Parameter, std::wstring* value);
 
 // A parameter of a subdevice, traced for the export that reads it, also when it can't be read.
 [[nodiscard]] Result ReadSubdevice(const ExportFrame& frame, std::wstring_view dataFolder,

@@ -42,7 +42,8 @@ int32_t LogNameGetEnumBL(uint32_t index, wchar_t* LogName, uint32_t* LogNameLen)
         for (std::uint32_t i = 0;; ++i)
         {
             // A name too long for the buffer looks like the end of the list, wherever it stands.
-            if (NorvXMLEnumFile(folder.c_str(), i, &candidate) != PGSP_OK || candidate.size() >= *LogNameLen)
+            if (NorvXMLEnumFile(folder.c_str(), dataFolder, i, &candidate) != PGSP_OK ||
+                candidate.size() >= *LogNameLen)
             {
                 NORV_TRACE(frame, TraceExit, "<< return PGSP_ERR_NO_MORE_ITEMS");
                 return PGSP_ERR_NO_MORE_ITEMS;

@@ -105,7 +105,8 @@ int32_t PGSP_GetLogDeviceListExBL(const wchar_t* EntryName, const wchar_t* Entry
         const std::wstring folder = LogDeviceFolder(dataFolder);
         std::vector<std::wstring> names;
         std::wstring name;
-        for (std::uint32_t index = 0; NorvXMLEnumFile(folder.c_str(), index, &name) == PGSP_OK; ++index)
+        for (std::uint32_t index = 0; NorvXMLEnumFile(folder.c_str(), dataFolder, index, &name) == PGSP_OK;
+             ++index)
         {
             const std::wstring value = ValueOf(name, EntryName);
             if (!value.empty() && IsAskedFor(frame, value, EntryValue, mode))

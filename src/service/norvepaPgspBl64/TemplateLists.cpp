@@ -11,11 +11,12 @@ using namespace norvepa;
 namespace
 {
 
-std::vector<std::wstring> AllFiles(const std::wstring& folder)
+std::vector<std::wstring> AllFiles(const std::wstring& folder, const std::wstring& dataFolder)
 {
     std::vector<std::wstring> names;
     std::wstring name;
-    for (std::uint32_t index = 0; NorvXMLEnumFile(folder.c_str(), index, &name) == PGSP_OK; ++index)
+    for (std::uint32_t index = 0; NorvXMLEnumFile(folder.c_str(), dataFolder, index, &name) == PGSP_OK;
+         ++index)
     {
         names.push_back(name);
     }
@@ -25,10 +26,11 @@ std::vector<std::wstring> AllFiles(const std::wstring& folder)
 // Step by step from the first name: the listing may change on the way, and what ends it is the answer.
 Result StepToFile(const std::wstring& folder, std::uint32_t index, std::wstring& name)
 {
-    Result result = NorvXMLEnumFile(folder.c_str(), 0, &name);
+    const std::wstring dataFolder = GetDataFolder();
+    Result result = NorvXMLEnumFile(folder.c_str(), dataFolder, 0, &name);
     for (std::uint32_t step = 0; result == PGSP_OK && step < index;)
     {
-        result = NorvXMLEnumFile(folder.c_str(), ++step, &name);
+        result = NorvXMLEnumFile(folder.c_str(), dataFolder, ++step, &name);
     }
     return result;
 }
@@ -45,7 +47,8 @@ Result ReturnStoreFiles(const ExportFrame& frame, std::wstring_view folder, wcha
     {
         return frame.FolderNotFound("Can not get ProgramData Path");
     }
-    return ReturnStringList(frame, AllFiles(MakeStoreFolder(dataFolder, L"data", folder)), buffer, length);
+    const std::wstring path = MakeStoreFolder(dataFolder, L"data", folder);
+    return ReturnStringList(frame, AllFiles(path, dataFolder), buffer, length);
 }
 
 std::wstring WithoutAny(std::wstring name, std::wstring_view prefix)
@@ -98,8 +101,8 @@ int32_t PGSP_TemplateGetListBL(const wchar_t* FolderName, wchar_t* Templates, ui
         {
             return frame.FolderNotFound("Can not get FilesOAM Path");
         }
-        return ReturnStringList(frame, AllFiles(CatalogueFolder(programFolder, FolderName)), Templates,
-                                dwTemplates);
+        const std::wstring folder = CatalogueFolder(programFolder, FolderName);
+        return ReturnStringList(frame, AllFiles(folder, GetDataFolder()), Templates, dwTemplates);
     });
 }
 

@@ -1,6 +1,7 @@
 // A second process that has files open: each line names one, which it holds until it ends.
 
 #include "support/OpenFile.h"
+#include "support/Peer.h"
 #include "support/TemporaryFolder.h"
 
 #include <iostream>
@@ -11,6 +12,7 @@
 
 int main()
 {
+    std::cout << norvepa::test::PeerIsReady << std::endl;
     std::list<norvepa::test::OpenFile> held;
     for (std::string path; std::getline(std::cin, path);)
     {

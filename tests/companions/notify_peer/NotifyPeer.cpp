@@ -4,6 +4,7 @@
 #include "norvepa.h"
 #include "support/LoadedLibrary.h"
 #include "support/NamedEvent.h"
+#include "support/Peer.h"
 #include "support/RedirectedRegistry.h"
 #include "support/TemporaryFolder.h"
 
@@ -182,6 +183,7 @@ int main()
 {
     const char* const key = std::getenv("NORV_TEST_MACHINE_KEY");
     const RedirectedRegistry registry(FromUtf8(key == nullptr ? "Software\\NorvepaBl64x.Tests\\peer" : key));
+    std::cout << PeerIsReady << std::endl;
     for (std::string line; std::getline(std::cin, line);)
     {
         std::cout << Answer(line) << std::endl;
