@@ -36,6 +36,16 @@ Result ExportFrame::FolderNotFound(const char* whichFolder) const noexcept
     return Return(PGSP_ERR_FOLDER_NOT_FOUND);
 }
 
+Result AnswerOf(int32_t exportsResult)
+{
+    const Result result{exportsResult};
+    if (result == OutOfMemory)
+    {
+        throw std::bad_alloc();
+    }
+    return result;
+}
+
 Result ExportFrame::Escaped() const noexcept
 {
     try

@@ -44,4 +44,8 @@ template <typename Body>
     }
 }
 
+// What an export answers that another one calls. Memory that ran out for it ran out for its caller: not one
+// of the codes that a caller takes for "not there".
+[[nodiscard]] Result AnswerOf(int32_t exportsResult);
+
 } // namespace norvepa

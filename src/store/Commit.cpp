@@ -3,6 +3,7 @@
 #include "frame/FileNames.h"
 #include "frame/StoreLocations.h"
 #include "store/DomWalk.h"
+#include "store/Renaming.h"
 #include "store/norvxml.h"
 #include "xml/SchemaCollection.h"
 
@@ -129,11 +130,13 @@ Result NorvXMLCommitTemp(const wchar_t* fileName, const wchar_t* schemaName, con
         return validation;
     }
 
+    // Between the two the file exists as the temporary one alone: nothing that needs memory stands there.
     const std::wstring real = JoinPath(folderPath, fileName);
+    const Renaming renaming(temporary.c_str(), real.c_str());
     const Result deletion = NorvXMLDeleteFile(real.c_str());
     if (deletion == PGSP_OK)
     {
-        static_cast<void>(NorvXMLRenameFile(temporary.c_str(), real.c_str()));
+        static_cast<void>(renaming.Run());
     }
     // Any other failure of the deletion, and one of the renaming, are not told.
     return deletion == PGSP_ERR_CANT_DELETE_FILE ? deletion : PGSP_OK;

@@ -1,6 +1,7 @@
 #include "BuildSettings.h"
 #include "frame/Arguments.h"
 #include "store/Kinds.h"
+#include "store/ProvisionalFile.h"
 #include "store/PullWalk.h"
 #include "store/norvxml.h"
 #include "trace/TraceStatement.h"
@@ -105,6 +106,7 @@ Result NorvXMLCreateFile(const wchar_t* filePath, const wchar_t* fileKind)
         NORV_TRACE(source, TraceInfo, "can't create file");
         return PGSP_ERR_CANT_CREATE_FILE;
     }
+    const ProvisionalFile provisional(file);
     Document document;
     if (FAILED(document.Create()))
     {

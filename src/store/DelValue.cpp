@@ -3,6 +3,7 @@
 #include "frame/StoreLocations.h"
 #include "frame/Text.h"
 #include "store/DomWalk.h"
+#include "store/ProvisionalFile.h"
 #include "store/PullWalk.h"
 #include "store/norvxml.h"
 
@@ -48,6 +49,11 @@ bool IsEntryOf(const Node& entry, std::wstring_view parameter)
         }
     }
     return false;
+}
+
+std::wstring TemporaryForm(const std::wstring& escapedPath)
+{
+    return escapedPath + L"(temp).xml";
 }
 
 // Removes the first entry of this name that the engine lets go.
@@ -103,10 +109,26 @@ Result NorvXMLDelValue(const wchar_t* filePath, const wchar_t* section, const wc
     }
     // The path is escaped a second time here, so that a leftover of a name with codes isn't met; it is then
     // overwritten.
-    const std::wstring temporary = escaped + L"(temp).xml";
+    const std::wstring temporary = TemporaryForm(escaped);
     static_cast<void>(NorvXMLDeleteFile(temporary.c_str()));
     static_cast<void>(document.Save(temporary));
     return PGSP_OK;
+}
+
+Result DelValueAndCommit(const std::wstring& folderPath, const wchar_t* fileName, const wchar_t* schemaName,
+                         const wchar_t* section, const wchar_t* parameter)
+{
+    const std::wstring file = JoinPath(folderPath, fileName);
+    std::wstring escaped;
+    if (const Result result = EscapePath(file.c_str(), escaped); result != PGSP_OK)
+    {
+        return result;
+    }
+
+    const std::wstring temporary = TemporaryForm(escaped);
+    const ProvisionalFile provisional(temporary);
+    const Result result = NorvXMLDelValue(file.c_str(), section, parameter);
+    return result == PGSP_OK ? NorvXMLCommitTemp(fileName, schemaName, folderPath.c_str()) : result;
 }
 
 } // namespace norvepa

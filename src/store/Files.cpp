@@ -1,6 +1,7 @@
 #include "frame/Arguments.h"
 #include "frame/FileNames.h"
 #include "frame/StoreLocations.h"
+#include "store/Renaming.h"
 #include "store/norvxml.h"
 #include "trace/TraceStatement.h"
 
@@ -17,24 +18,19 @@ namespace
 
 constexpr DWORD SizeLimit = 10'000'000; // bytes
 
-struct FilePair
-{
-    std::wstring oldFile;
-    std::wstring newFile;
-};
-
 // Neither path is escaped before both are known to be there. The extension is each operation's own.
-Result EscapeBoth(const wchar_t* sourcePath, const wchar_t* destinationPath, FilePair& files)
+Result EscapeBoth(const wchar_t* sourcePath, const wchar_t* destinationPath, std::wstring& oldFile,
+                  std::wstring& newFile)
 {
     if (IsMissing(sourcePath) || IsMissing(destinationPath))
     {
         return PGSP_ERR_INVALID_PARAMETERS;
     }
-    if (const Result result = EscapePath(sourcePath, files.oldFile); result != PGSP_OK)
+    if (const Result result = EscapePath(sourcePath, oldFile); result != PGSP_OK)
     {
         return result;
     }
-    return EscapePath(destinationPath, files.newFile);
+    return EscapePath(destinationPath, newFile);
 }
 
 } // namespace
@@ -100,12 +96,12 @@ Result NorvXMLCopyFile(const wchar_t* sourcePath, const wchar_t* destinationPath
     constexpr TraceSource source{"NorvXMLCopyFile: ", "XML"};
 
     NORV_TRACE(source, TraceEntry, ">> destinationPath = %s", TraceToAnsi(destinationPath));
-    FilePair files;
-    if (const Result result = EscapeBoth(sourcePath, destinationPath, files); result != PGSP_OK)
+    std::wstring oldFile;
+    std::wstring newFile;
+    if (const Result result = EscapeBoth(sourcePath, destinationPath, oldFile, newFile); result != PGSP_OK)
     {
         return result;
     }
-    auto& [oldFile, newFile] = files;
     ExtendByAnywhereRule(oldFile);
     ExtendByAnywhereRule(newFile);
 
@@ -122,20 +118,29 @@ Result NorvXMLCopyFile(const wchar_t* sourcePath, const wchar_t* destinationPath
 
 Result NorvXMLRenameFile(const wchar_t* sourcePath, const wchar_t* destinationPath)
 {
+    return Renaming(sourcePath, destinationPath).Run();
+}
+
+Renaming::Renaming(const wchar_t* sourcePath, const wchar_t* destinationPath)
+    : m_destinationPath(destinationPath),
+      m_escaping(EscapeBoth(sourcePath, destinationPath, m_oldFile, m_newFile))
+{
+    ExtendByEndRule(m_oldFile);
+    ExtendByEndRule(m_newFile);
+}
+
+Result Renaming::Run() const noexcept
+{
     constexpr TraceSource source{"NorvXMLRenameFile: ", "XML"};
 
-    NORV_TRACE(source, TraceEntry, ">> destinationPath = %s", TraceToAnsi(destinationPath));
-    FilePair files;
-    if (const Result result = EscapeBoth(sourcePath, destinationPath, files); result != PGSP_OK)
+    NORV_TRACE(source, TraceEntry, ">> destinationPath = %s", TraceToAnsi(m_destinationPath));
+    if (m_escaping != PGSP_OK)
     {
-        return result;
+        return m_escaping;
     }
-    auto& [oldFile, newFile] = files;
-    ExtendByEndRule(oldFile);
-    ExtendByEndRule(newFile);
 
-    NORV_TRACE(source, TraceExit, " : RenameFile >> NewFile = %s", TraceToAnsi(newFile.c_str()));
-    return _wrename(oldFile.c_str(), newFile.c_str()) == 0 ? PGSP_OK : PGSP_ERR_CANT_COPY_FILE;
+    NORV_TRACE(source, TraceExit, " : RenameFile >> NewFile = %s", TraceToAnsi(m_newFile.c_str()));
+    return _wrename(m_oldFile.c_str(), m_newFile.c_str()) == 0 ? PGSP_OK : PGSP_ERR_CANT_COPY_FILE;
 }
 
 } // namespace norvepa

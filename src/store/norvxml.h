@@ -144,4 +144,10 @@ namespace norvepa
 [[nodiscard]] Result NorvXMLCommitTemp(const wchar_t* fileName, const wchar_t* schemaName,
                                        const wchar_t* folderPath);
 
+// NorvXMLDelValue and what has to follow it, for a file of a folder that goes through a "(temp)" form. That
+// form is gone also when memory runs out on the way.
+[[nodiscard]] Result DelValueAndCommit(const std::wstring& folderPath, const wchar_t* fileName,
+                                       const wchar_t* schemaName, const wchar_t* section,
+                                       const wchar_t* parameter);
+
 } // namespace norvepa

@@ -40,6 +40,17 @@ TEST(RunExport, AnswersInvalidParametersForAnyOtherException)
     EXPECT_EQ(RunExport(Tag, [](const ExportFrame&) -> Result { throw L"a foreign thing"; }), 87);
 }
 
+TEST(AnswerOf, PassesOnWhatAnExportAnswers)
+{
+    EXPECT_EQ(AnswerOf(0), PGSP_OK);
+    EXPECT_EQ(AnswerOf(8513), PGSP_ERR_PARAM_NOT_FOUND);
+}
+
+TEST(AnswerOf, LetsTheCallerRunOutOfMemoryToo)
+{
+    EXPECT_THROW(static_cast<void>(AnswerOf(14)), std::bad_alloc);
+}
+
 TEST(ExportFrame, LeavesByItsExitsWithTheirCodes)
 {
     const ExportFrame frame{Tag};

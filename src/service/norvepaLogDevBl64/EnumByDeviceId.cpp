@@ -26,7 +26,7 @@ void AddToIndex(const std::wstring& logDevice)
     }
     std::array<wchar_t, PathCapacity> unit{};
     std::uint32_t length = PathCapacity;
-    if (LogDeviceGetValueBL(logDevice.c_str(), L"Unit", unit.data(), &length) == PGSP_OK)
+    if (AnswerOf(LogDeviceGetValueBL(logDevice.c_str(), L"Unit", unit.data(), &length)) == PGSP_OK)
     {
         deviceIdIndex.Add(deviceId, logDevice, Filled(unit, length));
     }
@@ -50,6 +50,18 @@ void Rebuild()
         TraceEnumFound(enumeration, name, index);
         AddToIndex(name);
     }
+}
+
+// An index that memory ran out for would go on answering without the log devices that it lacks.
+void RebuildWhole()
+try
+{
+    Rebuild();
+}
+catch (...)
+{
+    deviceIdIndex.MarkStale();
+    throw;
 }
 
 Result CopyEntry(const ExportFrame& frame, const DeviceIdIndex::Entry* entry, wchar_t* logDevice,
@@ -94,7 +106,7 @@ int32_t LogDeviceGetEnumByDeviceIdBL(const wchar_t* DeviceID, uint32_t index, wc
             getDirectoryChange(GetDataFolder());
             if (!deviceIdIndex.IsValid())
             {
-                Rebuild();
+                RebuildWhole();
             }
             result =
                 CopyEntry(frame, deviceIdIndex.Find(DeviceID, index), LogDevice, LogDeviceLen, Unit, UnitLen);

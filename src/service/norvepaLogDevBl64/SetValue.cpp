@@ -100,13 +100,9 @@ int32_t LogDeviceDelValueBL(const wchar_t* LogDevice, const wchar_t* Parameter)
         // Only the catalogue names the section: the file isn't searched, and there is no mapped name.
         DeviceCatalogue catalogue(LogDevice, dataFolder);
         const std::wstring section = ConstraintOrEmpty(catalogue, Parameter, L"section");
-        const std::wstring file = LogDeviceFile(dataFolder, LogDevice);
-        Result result = NorvXMLDelValue(file.c_str(), section.c_str(), Parameter);
-        if (result == PGSP_OK)
-        {
-            result = NorvXMLCommitTemp(LogDevice, L"Corvane.Device.Driver.Logdevice",
-                                       LogDeviceFolder(dataFolder).c_str());
-        }
+        const Result result =
+            DelValueAndCommit(LogDeviceFolder(dataFolder), LogDevice, L"Corvane.Device.Driver.Logdevice",
+                              section.c_str(), Parameter);
         if (result == PGSP_OK)
         {
             SendNotificationBL(LogDevicesWord, LogDevice, L"6");

@@ -51,13 +51,9 @@ int32_t LogNameDelValueBL(const wchar_t* LogName, const wchar_t* Parameter)
             return frame.FolderNotFound("Can not get ProgramData Path");
         }
 
-        const std::wstring file = LogNameFile(dataFolder, LogName);
-        Result result = NorvXMLDelValue(file.c_str(), ParametersSection, Parameter);
-        if (result == PGSP_OK)
-        {
-            result = NorvXMLCommitTemp(LogName, L"Corvane.Device.Driver.Logname",
-                                       LogNameFolder(dataFolder).c_str());
-        }
+        const Result result =
+            DelValueAndCommit(LogNameFolder(dataFolder), LogName, L"Corvane.Device.Driver.Logname",
+                              ParametersSection, Parameter);
         if (result == PGSP_OK)
         {
             SendNotificationBL(LogNamesWord, LogName, L"6");

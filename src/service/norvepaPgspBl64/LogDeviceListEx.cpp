@@ -23,7 +23,7 @@ std::wstring ValueOf(const std::wstring& logDevice, const wchar_t* parameter)
 {
     std::array<wchar_t, PathCapacity> value{};
     std::uint32_t length = PathCapacity;
-    if (LogDeviceGetValueBL(logDevice.c_str(), parameter, value.data(), &length) != PGSP_OK)
+    if (AnswerOf(LogDeviceGetValueBL(logDevice.c_str(), parameter, value.data(), &length)) != PGSP_OK)
     {
         return {};
     }

@@ -65,7 +65,7 @@ std::wstring BoardShown(const std::wstring& name)
 {
     std::wstring deviceId(PathCapacity, L'\0');
     auto length = static_cast<std::uint32_t>(deviceId.size());
-    if (PGSP_BoardGetValueBL(name.c_str(), L"DeviceID", deviceId.data(), &length) != PGSP_OK)
+    if (AnswerOf(PGSP_BoardGetValueBL(name.c_str(), L"DeviceID", deviceId.data(), &length)) != PGSP_OK)
     {
         return WithoutAny(name, BoardPrefix);
     }
