@@ -1,12 +1,11 @@
 #include "CatalogueScene.h"
+#include "support/AllAtOnce.h"
 
 #include <windows.h>
 #include <objbase.h>
 
 #include <atomic>
 #include <functional>
-#include <list>
-#include <thread>
 
 namespace norvepa::test
 {
@@ -108,23 +107,15 @@ protected:
     void Race(const std::function<void(int, int)>& body) const
     {
         const ULONGLONG begin = GetTickCount64();
-        std::list<std::thread> threads;
-        for (int thread = 0; thread < Threads; ++thread)
-        {
-            threads.emplace_back([&body, begin, thread] {
-                CoInitialize(nullptr);
-                int round = 0;
-                do
-                {
-                    body(thread, round++);
-                } while (GetTickCount64() - begin < Duration);
-                CoUninitialize();
-            });
-        }
-        for (std::thread& thread : threads)
-        {
-            thread.join();
-        }
+        AllAtOnce(Threads, [&](int thread) {
+            CoInitialize(nullptr);
+            int round = 0;
+            do
+            {
+                body(thread, round++);
+            } while (GetTickCount64() - begin < Duration);
+            CoUninitialize();
+        });
     }
 };
 

@@ -1,4 +1,4 @@
-#include "MemoryScene.h"
+#include "SmallStore.h"
 
 #include "meta/cMetaFiles.h"
 #include "norvepa.h"
@@ -60,7 +60,7 @@ std::string Shown(const std::wstring& buffer, std::uint32_t length)
 
 } // namespace
 
-MemoryScene::MemoryScene()
+SmallStore::SmallStore()
 {
     store.UseOurSchemas();
     WriteBytes(roots.board(L"AFK110"), BoardFile(BoardContent()));
@@ -72,13 +72,13 @@ MemoryScene::MemoryScene()
     }
 }
 
-MemoryScene::~MemoryScene()
+SmallStore::~SmallStore()
 {
     UnRegisterNotification(L"LogDevices", nullptr, event.c_str());
     deinitWatchDirectories();
 }
 
-void MemoryScene::WriteStore() const
+void SmallStore::WriteStore() const
 {
     for (const auto& [name, bytes] : StoredFiles())
     {
@@ -90,7 +90,7 @@ void MemoryScene::WriteStore() const
                LogNameFile(XmlContent().Text(L"LogDevice", L"Alt").Text(L"Ort", L"Halle 2")));
 }
 
-Files MemoryScene::StoredFiles() const
+Files SmallStore::StoredFiles() const
 {
     const fs::path folder = roots.data() + L"\\data";
     Files files;
@@ -104,23 +104,23 @@ Files MemoryScene::StoredFiles() const
     return files;
 }
 
-void MemoryScene::DropWhatIsKept()
+void SmallStore::DropWhatIsKept()
 {
     MetaDropAllDocuments();
     deinitWatchDirectories();
     deviceIdIndex.MarkStale(); // as a change of the folder does
 }
 
-Outcome MemoryScene::Ask(const Question& question)
+Outcome SmallStore::Ask(const Question& question)
 {
     Outcome outcome;
     outcome.result = question.ask(outcome.outputs);
     return outcome;
 }
 
-void MemoryScene::AskWithEachAllocationFailing(const Question& question, Shortage shortage,
-                                               const std::function<void()>& prepare,
-                                               const std::function<void(const Outcome&)>& look)
+void SmallStore::AskWithEachAllocationFailing(const Question& question, Shortage shortage,
+                                              const std::function<void()>& prepare,
+                                              const std::function<void(const Outcome&)>& look)
 {
     bool hasFailed = true;
     for (std::size_t nth = 1; hasFailed; ++nth)

@@ -1,9 +1,9 @@
 #pragma once
 
-// A question for each export that can run out of memory, about the store of MemoryScene. Each is answered
+// A question for each export that can run out of memory, about the store of SmallStore. Each is answered
 // with PGSP_OK.
 
-#include "MemoryScene.h"
+#include "SmallStore.h"
 
 #include <vector>
 

@@ -31,7 +31,7 @@ std::string NameOf(const testing::TestParamInfo<Case>& info)
            (shortage == Shortage::Passing ? "InAPassingShortage" : "InALastingShortage");
 }
 
-class OutOfMemoryScene : public MemoryScene, public testing::WithParamInterface<Case>
+class OutOfSmallStore : public SmallStore, public testing::WithParamInterface<Case>
 {
 protected:
     static const Question& question() { return std::get<Question>(GetParam()); }
@@ -46,7 +46,7 @@ protected:
     }
 };
 
-using ARead = OutOfMemoryScene;
+using ARead = OutOfSmallStore;
 
 TEST_P(ARead, ThatRunsOutOfMemorySaysSoAndTouchesNothing)
 {
@@ -66,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(OfEachExport, ARead,
                                  Values(Shortage::Passing, Shortage::Lasting)),
                          NameOf);
 
-using AChange = OutOfMemoryScene;
+using AChange = OutOfSmallStore;
 
 // A change that can't be announced for want of memory stands.
 TEST_P(AChange, ThatRunsOutOfMemoryIsMadeWholeOrNotAtAll)
@@ -90,7 +90,7 @@ INSTANTIATE_TEST_SUITE_P(OfEachExport, AChange,
                                  Values(Shortage::Passing, Shortage::Lasting)),
                          NameOf);
 
-class OutOfMemory : public MemoryScene, public testing::WithParamInterface<Shortage>
+class OutOfMemory : public SmallStore, public testing::WithParamInterface<Shortage>
 {
 };
 

@@ -22,10 +22,11 @@ namespace norvepa::test
 struct Outputs
 {
     static constexpr std::uint32_t Capacity = 300;
+    static constexpr std::uint32_t Guard = 20; // behind them, not offered
 
-    std::wstring first = std::wstring(Capacity, L'#');
+    std::wstring first = std::wstring(Capacity + Guard, L'#');
     std::uint32_t firstLength = Capacity;
-    std::wstring second = std::wstring(Capacity, L'#');
+    std::wstring second = std::wstring(Capacity + Guard, L'#');
     std::uint32_t secondLength = Capacity;
 
     bool operator==(const Outputs&) const = default;
@@ -52,11 +53,11 @@ void PrintTo(const Question& question, std::ostream* out);
 
 using Files = std::map<std::wstring, std::string>; // by name, below the data folder
 
-class MemoryScene : public testing::Test
+class SmallStore : public testing::Test
 {
 protected:
-    MemoryScene();
-    ~MemoryScene() override; // lets go of the folders, which are about to be removed
+    SmallStore();
+    ~SmallStore() override; // lets go of the folders, which are about to be removed
 
     // Everything as it was in the beginning.
     void WriteStore() const;

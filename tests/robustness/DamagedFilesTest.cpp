@@ -1,0 +1,144 @@
+#include "Damage.h"
+#include "Questions.h"
+#include "norvepa.h"
+
+#include <array>
+#include <set>
+
+namespace norvepa::test
+{
+namespace
+{
+
+using testing::Contains;
+using testing::Range;
+
+constexpr std::uint32_t DamagesOfATest = 40;
+
+// What a call with all its arguments may answer to a file that is anything. 87 and 14 would hide what went
+// wrong inside; a list says 87 of a name without a value.
+const std::set<std::int32_t> Codes{PGSP_OK,
+                                   PGSP_ERR_BUFFER_TOO_SHORT,
+                                   PGSP_ERR_NO_MORE_ITEMS,
+                                   PGSP_ERR_LOG_DEVICE_NOT_EXISTS,
+                                   PGSP_ERR_PARAMETER_DEFAULT_NOT_FOUND,
+                                   PGSP_NOT_IN_LIST,
+                                   PGSP_SET_VAL_LESS_THAN_MIN,
+                                   PGSP_SET_VAL_BIGGER_THAN_MAX,
+                                   PGSP_NOT_IN_STEP,
+                                   PGSP_ERR_FILE_NOT_FOUND,
+                                   PGSP_ERR_INVALID_FILE,
+                                   PGSP_ERR_CANT_LOAD_XML_FILE,
+                                   PGSP_ERR_PARAM_NOT_FOUND,
+                                   PGSP_ERR_CANT_SET_VALUE,
+                                   PGSP_ERR_SAME_VALUE};
+
+bool IsList(const Question& question)
+{
+    return std::string_view(question.name).ends_with("GetValueListBL");
+}
+
+// In each test other damage, to one file after the other. What the library remembers of a file for good it
+// learns from the first damage of the test.
+class DamagedFiles : public SmallStore, public testing::WithParamInterface<std::uint32_t>
+{
+protected:
+    DamagedFiles()
+    {
+        for (const std::wstring& path : paths)
+        {
+            whole.push_back(ReadBytes(path));
+        }
+    }
+
+    // One file of the store damaged, all others whole.
+    void Damage(std::uint32_t number) const
+    {
+        WriteStore();
+        for (std::size_t i = 0; i < paths.size(); ++i)
+        {
+            const bool isHit = number % paths.size() == i;
+            WriteBytes(paths[i], isHit ? Damaged(whole[i], number) : whole[i]);
+        }
+        DropWhatIsKept();
+    }
+
+    template <typename Body>
+    void ForEachDamage(const Body& body) const
+    {
+        for (std::uint32_t i = 0; i < DamagesOfATest; ++i)
+        {
+            const std::uint32_t number = GetParam() * DamagesOfATest + i;
+            SCOPED_TRACE("damage " + std::to_string(number));
+            Damage(number);
+            body();
+        }
+    }
+
+    const std::array<std::wstring, 4> paths{roots.logDevice(L"Presse"), roots.logName(L"Pumpe"),
+                                            roots.board(L"AFK110"), roots.protocol(L"MPI")};
+    std::vector<std::string> whole;
+};
+
+void ExpectWithinBounds(const std::wstring& buffer, std::uint32_t length, std::int32_t result)
+{
+    EXPECT_EQ(buffer.substr(Outputs::Capacity), std::wstring(Outputs::Guard, L'#'));
+    if (result == PGSP_OK)
+    {
+        EXPECT_LE(length, Outputs::Capacity);
+    }
+}
+
+TEST_P(DamagedFiles, AreReadWithinBoundsAndToldOf)
+{
+    ForEachDamage([] {
+        for (const Question& question : Reads())
+        {
+            SCOPED_TRACE(question.name);
+            const Outcome outcome = Ask(question);
+
+            EXPECT_TRUE(Codes.contains(outcome.result) ||
+                        (IsList(question) && outcome.result == PGSP_ERR_INVALID_PARAMETERS))
+                << outcome.result;
+            ExpectWithinBounds(outcome.outputs.first, outcome.outputs.firstLength, outcome.result);
+            ExpectWithinBounds(outcome.outputs.second, outcome.outputs.secondLength, outcome.result);
+        }
+    });
+}
+
+TEST_P(DamagedFiles, AnswerTheSameWhenTheyAreAskedAgain)
+{
+    ForEachDamage([] {
+        for (const Question& question : Reads())
+        {
+            SCOPED_TRACE(question.name);
+            EXPECT_EQ(Ask(question), Ask(question));
+        }
+    });
+}
+
+// A change that is refused leaves every byte of the store.
+TEST_P(DamagedFiles, AreChangedOrLeftAsTheyAre)
+{
+    ForEachDamage([this] {
+        for (const Question& question : Changes())
+        {
+            SCOPED_TRACE(question.name);
+            const Files before = StoredFiles();
+            std::fprintf(stderr, "%s\n", question.name);
+            std::fflush(stderr);
+            const Outcome outcome = Ask(question);
+
+            EXPECT_THAT(Codes, Contains(outcome.result));
+            if (outcome.result != PGSP_OK)
+            {
+                EXPECT_EQ(StoredFiles(), before);
+            }
+        }
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, DamagedFiles, Range(0u, 6u));
+
+} // namespace
+} // namespace norvepa::test
