@@ -11,8 +11,6 @@ namespace
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-using Pairs = std::vector<std::pair<std::wstring, std::wstring>>;
-
 class EnumValue : public GetScene
 {
 protected:
@@ -26,21 +24,9 @@ protected:
     // What index after index gives, up to the end.
     [[nodiscard]] Pairs All(const wchar_t* device = L"Presse") const
     {
-        Pairs pairs;
-        for (;;)
-        {
-            OutputBuffer name(300);
-            OutputBuffer value(300);
-            const std::int32_t result = Enum(device, static_cast<std::uint32_t>(pairs.size()), name, value);
-            if (result != PGSP_OK)
-            {
-                EXPECT_EQ(result, PGSP_ERR_NO_MORE_ITEMS);
-                return pairs;
-            }
-            pairs.emplace_back(name.text(), value.text());
-            EXPECT_EQ(name.length, pairs.back().first.size());
-            EXPECT_EQ(value.length, pairs.back().second.size());
-        }
+        return AllPairs([&](std::uint32_t index, OutputBuffer& name, OutputBuffer& value) {
+            return Enum(device, index, name, value);
+        });
     }
 };
 

@@ -12,6 +12,7 @@
 #include <gmock/gmock.h>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace norvepa::test
@@ -25,6 +26,30 @@ using Names = std::vector<std::wstring>;
 
 // What a value is, or "(result N)" for a call that didn't succeed.
 [[nodiscard]] std::wstring TextOf(std::int32_t result, const OutputBuffer& value);
+
+using Pairs = std::vector<std::pair<std::wstring, std::wstring>>;
+
+// What an enumeration of pairs gives, index after index, up to its end. A call takes the index and two
+// buffers.
+template <typename Call>
+[[nodiscard]] Pairs AllPairs(const Call& call)
+{
+    Pairs pairs;
+    for (;;)
+    {
+        OutputBuffer name(300);
+        OutputBuffer value(300);
+        const std::int32_t result = call(static_cast<std::uint32_t>(pairs.size()), name, value);
+        if (result != PGSP_OK)
+        {
+            EXPECT_EQ(result, PGSP_ERR_NO_MORE_ITEMS);
+            return pairs;
+        }
+        pairs.emplace_back(name.text(), value.text());
+        EXPECT_EQ(name.length, pairs.back().first.size());
+        EXPECT_EQ(value.length, pairs.back().second.size());
+    }
+}
 
 class GetScene : public testing::Test
 {

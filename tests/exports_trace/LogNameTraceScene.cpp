@@ -4,26 +4,8 @@
 
 #include <windows.h>
 
-#include <map>
-
 namespace norvepa::test
 {
-
-namespace
-{
-
-// The columns of the format "SHORT" that come ahead of the tag.
-constexpr std::size_t LevelColumn = 11;
-constexpr std::size_t TagColumn = 27;
-
-std::string LevelOf(const std::string& line)
-{
-    static const std::map<std::string, std::string> names{
-        {"FA", "entry"}, {"FR", "warning"}, {"FM", "information"}, {"FE", "exit"}};
-    return names.at(line.substr(LevelColumn, 2));
-}
-
-} // namespace
 
 LogNameTraceScene::LogNameTraceScene()
 {
@@ -61,16 +43,7 @@ std::vector<std::string> LogNameTraceScene::LinesOf(std::string_view operation) 
 std::vector<std::string> LogNameTraceScene::LinesTagged(std::string_view tag) const
 {
     m_workers->Await();
-    const std::string start = std::string(tag) + " ";
-    std::vector<std::string> lines;
-    for (const std::string& line : m_lines->read())
-    {
-        if (line.compare(TagColumn, start.size(), start) == 0)
-        {
-            lines.push_back(LevelOf(line) + ": " + line.substr(TagColumn + start.size()));
-        }
-    }
-    return lines;
+    return test::LinesTagged(m_lines->read(), tag);
 }
 
 std::string ToAnsi(const std::wstring& text)

@@ -2,10 +2,27 @@
 
 #include "support/StoreRoots.h"
 
+#include <map>
 #include <sstream>
 
 namespace norvepa::test
 {
+
+namespace
+{
+
+// The columns of the format "SHORT" that come ahead of the tag.
+constexpr std::size_t LevelColumn = 11;
+constexpr std::size_t TagColumn = 27;
+
+std::string LevelOf(const std::string& line)
+{
+    static const std::map<std::string, std::string> names{
+        {"FA", "entry"}, {"FR", "warning"}, {"FM", "information"}, {"FE", "exit"}};
+    return names.at(line.substr(LevelColumn, 2));
+}
+
+} // namespace
 
 TraceLines::TraceLines(const std::wstring& level, const std::wstring& format)
 {
@@ -29,6 +46,20 @@ std::vector<std::string> TraceLines::read() const
         }
     }
     return lines;
+}
+
+std::vector<std::string> LinesTagged(const std::vector<std::string>& lines, std::string_view tag)
+{
+    const std::string start = std::string(tag) + " ";
+    std::vector<std::string> found;
+    for (const std::string& line : lines)
+    {
+        if (line.compare(TagColumn, start.size(), start) == 0)
+        {
+            found.push_back(LevelOf(line) + ": " + line.substr(TagColumn + start.size()));
+        }
+    }
+    return found;
 }
 
 std::string TraceLine(std::string_view tag, std::string_view message)

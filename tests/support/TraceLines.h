@@ -27,6 +27,11 @@ private:
 
 inline const std::wstring AllTraceLevels = L"0xFFFFFFFF";
 
+// Of lines of the format "SHORT" those with this tag, each as its level and its text: "exit: << return lRet =
+// 0 ". The levels are "entry", "warning", "information" and "exit".
+[[nodiscard]] std::vector<std::string> LinesTagged(const std::vector<std::string>& lines,
+                                                   std::string_view tag);
+
 // A line of the format "TEXT": tag and message, a blank behind each. Tags end in a blank of their own.
 [[nodiscard]] std::string TraceLine(std::string_view tag, std::string_view message);
 
