@@ -1,33 +1,15 @@
-#include "DeviceScene.h"
+#include "InternalRead.h"
 
 namespace norvepa::test
 {
 namespace
 {
 
-class InternalGetValue : public DeviceScene
-{
-protected:
-    // The value, for reads that succeed; "(result N)" for those that don't.
-    [[nodiscard]] static std::wstring Value(const wchar_t* parameter, const wchar_t* logDevice = L"Presse")
-    {
-        std::wstring value = L"before";
-        const Result result = LogDeviceGetValue(logDevice, parameter, &value);
-        return result == PGSP_OK ? value : L"(result " + std::to_wstring(result) + L")";
-    }
-};
+using InternalGetValue = InternalRead<&LogDeviceGetValue>;
 
 TEST_F(InternalGetValue, RefusesMissingArguments)
 {
-    std::wstring value = L"before";
-
-    EXPECT_EQ(LogDeviceGetValue(nullptr, L"DeviceID", &value), PGSP_ERR_INVALID_PARAMETERS);
-    EXPECT_EQ(LogDeviceGetValue(L"", L"DeviceID", &value), PGSP_ERR_INVALID_PARAMETERS);
-    EXPECT_EQ(LogDeviceGetValue(L"Presse", nullptr, &value), PGSP_ERR_INVALID_PARAMETERS);
-    EXPECT_EQ(LogDeviceGetValue(L"Presse", L"", &value), PGSP_ERR_INVALID_PARAMETERS);
-    EXPECT_EQ(LogDeviceGetValue(L"Presse", L"DeviceID", nullptr), PGSP_ERR_INVALID_PARAMETERS);
-
-    EXPECT_EQ(value, L"before");
+    ExpectMissingArgumentsRefused();
 }
 
 TEST_F(InternalGetValue, SucceedsWithoutTheDataFolderAndLeavesTheOutputAlone)

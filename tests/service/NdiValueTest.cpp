@@ -1,33 +1,15 @@
-#include "DeviceScene.h"
+#include "InternalRead.h"
 
 namespace norvepa::test
 {
 namespace
 {
 
-class NdiValue : public DeviceScene
-{
-protected:
-    // The value, for reads that succeed; "(result N)" for those that don't.
-    [[nodiscard]] static std::wstring Value(const wchar_t* parameter, const wchar_t* logDevice = L"Presse")
-    {
-        std::wstring value = L"before";
-        const Result result = LogDeviceGetNdiValue(logDevice, parameter, &value);
-        return result == PGSP_OK ? value : L"(result " + std::to_wstring(result) + L")";
-    }
-};
+using NdiValue = InternalRead<&LogDeviceGetNdiValue>;
 
 TEST_F(NdiValue, RefusesMissingArguments)
 {
-    std::wstring value = L"before";
-
-    EXPECT_EQ(LogDeviceGetNdiValue(nullptr, L"Modul", &value), PGSP_ERR_INVALID_PARAMETERS);
-    EXPECT_EQ(LogDeviceGetNdiValue(L"", L"Modul", &value), PGSP_ERR_INVALID_PARAMETERS);
-    EXPECT_EQ(LogDeviceGetNdiValue(L"Presse", nullptr, &value), PGSP_ERR_INVALID_PARAMETERS);
-    EXPECT_EQ(LogDeviceGetNdiValue(L"Presse", L"", &value), PGSP_ERR_INVALID_PARAMETERS);
-    EXPECT_EQ(LogDeviceGetNdiValue(L"Presse", L"Modul", nullptr), PGSP_ERR_INVALID_PARAMETERS);
-
-    EXPECT_EQ(value, L"before");
+    ExpectMissingArgumentsRefused();
 }
 
 TEST_F(NdiValue, NeedsTheDataFolder)
