@@ -1,6 +1,7 @@
 #include "support/ChildProgram.h"
 
-#include <filesystem>
+#include "support/ProgramStart.h"
+
 #include <stdexcept>
 
 namespace norvepa::test
@@ -11,13 +12,6 @@ namespace
 
 constexpr DWORD Patience = 100'000; // milliseconds
 constexpr DWORD PipeInterval = 10;  // milliseconds between looks at what a running program has said
-
-std::wstring BesideThisProgram(const std::wstring& program)
-{
-    std::wstring path(1024, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
-    return std::filesystem::path(path).replace_filename(program).wstring();
-}
 
 // In quotes, so that the C run-time's rules give it back: backslashes count only ahead of a quote.
 std::wstring Quoted(const std::wstring& argument)
@@ -72,28 +66,16 @@ ChildProgram::ChildProgram(const std::wstring& program, const std::vector<std::w
     const HANDLE error = CreateFileW((m_folder / L"error").c_str(), GENERIC_WRITE, FILE_SHARE_READ,
                                      &inherited, CREATE_ALWAYS, 0, nullptr);
 
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    startup.dwFlags = STARTF_USESTDHANDLES;
-    startup.hStdOutput = output;
-    startup.hStdError = error;
     std::wstring commandLine = Quoted(BesideThisProgram(program));
     for (const std::wstring& argument : arguments)
     {
         commandLine += L" " + Quoted(argument);
     }
-    PROCESS_INFORMATION process{};
-    const BOOL started = CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr,
-                                        nullptr, &startup, &process);
+    const StartedProgram started = StartProgram(commandLine, nullptr, output, error);
     CloseHandle(output);
     CloseHandle(error);
-    if (started == FALSE)
-    {
-        throw std::runtime_error("the program can't be started: " + std::to_string(GetLastError()));
-    }
-    CloseHandle(process.hThread);
-    m_process = process.hProcess;
-    m_id = process.dwProcessId;
+    m_process = started.process;
+    m_id = started.id;
 }
 
 ChildProgram::~ChildProgram()

@@ -1,8 +1,7 @@
 #include "support/Peer.h"
 
-#include <iostream>
+#include "support/ProgramStart.h"
 
-#include <filesystem>
 #include <stdexcept>
 #include <utility>
 
@@ -13,13 +12,6 @@ namespace
 {
 
 constexpr DWORD Patience = 60'000; // milliseconds
-
-std::wstring BesideThisProgram(const std::wstring& program)
-{
-    std::wstring path(1024, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
-    return std::filesystem::path(path).replace_filename(program).wstring();
-}
 
 // The end of a pipe that the peer gets, and the one that stays here.
 std::pair<HANDLE, HANDLE> MakePipe(bool peerReads)
@@ -40,57 +32,21 @@ std::pair<HANDLE, HANDLE> MakePipe(bool peerReads)
 
 Peer::Peer(const std::wstring& program, const RedirectedRegistry& registry)
 {
-    Start(program, registry);
-    if (IsReady())
-    {
-        return;
-    }
-    std::cerr << "a peer has ended ahead of its first line, once more" << std::endl;
-    Release();
-    Start(program, registry);
-    if (!IsReady())
-    {
-        Release();
-        throw std::runtime_error("the peer doesn't become ready");
-    }
-}
-
-void Peer::Start(const std::wstring& program, const RedirectedRegistry& registry)
-{
     const auto [peerInput, input] = MakePipe(true);
     const auto [peerOutput, output] = MakePipe(false);
     m_input = input;
     m_output = output;
 
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    startup.dwFlags = STARTF_USESTDHANDLES;
-    startup.hStdInput = peerInput;
-    startup.hStdOutput = peerOutput;
-    startup.hStdError = GetStdHandle(STD_ERROR_HANDLE);
-    PROCESS_INFORMATION process{};
-    std::wstring commandLine = L"\"" + BesideThisProgram(program) + L"\"";
-
     SetEnvironmentVariableW(L"NORV_TEST_MACHINE_KEY", registry.name().c_str());
-    const BOOL started = CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr,
-                                        nullptr, &startup, &process);
+    m_process = StartProgram(L"\"" + BesideThisProgram(program) + L"\"", peerInput, peerOutput,
+                             GetStdHandle(STD_ERROR_HANDLE))
+                    .process;
     SetEnvironmentVariableW(L"NORV_TEST_MACHINE_KEY", nullptr);
     CloseHandle(peerInput);
     CloseHandle(peerOutput);
-    if (started == FALSE)
-    {
-        throw std::runtime_error("the peer can't be started: " + std::to_string(GetLastError()));
-    }
-    CloseHandle(process.hThread);
-    m_process = process.hProcess;
 }
 
 Peer::~Peer()
-{
-    Release();
-}
-
-void Peer::Release()
 {
     CloseHandle(m_input);
     if (WaitForSingleObject(m_process, Patience) != WAIT_OBJECT_0)
@@ -99,18 +55,6 @@ void Peer::Release()
     }
     CloseHandle(m_process);
     CloseHandle(m_output);
-}
-
-bool Peer::IsReady()
-{
-    try
-    {
-        return Answer() == PeerIsReady;
-    }
-    catch (const std::runtime_error&)
-    {
-        return false;
-    }
 }
 
 std::string Peer::Ask(const std::string& command)

@@ -12,15 +12,10 @@
 namespace norvepa::test
 {
 
-// The first line that every such program writes.
-inline constexpr char PeerIsReady[] = "ready";
-
 class Peer
 {
 public:
-    // Returns once it is ready; throws when it doesn't become so. A program that ends ahead of its first line
-    // hasn't been loaded, as may happen under Wine: it is noted and started once more.
-    Peer(const std::wstring& program, const RedirectedRegistry& registry);
+    Peer(const std::wstring& program, const RedirectedRegistry& registry); // throws when it can't be started
     Peer(const Peer&) = delete;
     Peer& operator=(const Peer&) = delete;
     ~Peer(); // lets it end by itself
@@ -39,10 +34,6 @@ public:
     void Kill();
 
 private:
-    void Start(const std::wstring& program, const RedirectedRegistry& registry);
-    void Release(); // what Start has got
-    [[nodiscard]] bool IsReady();
-
     HANDLE m_process = nullptr;
     HANDLE m_input = nullptr;  // what it reads
     HANDLE m_output = nullptr; // what it writes

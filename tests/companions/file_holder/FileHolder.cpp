@@ -1,7 +1,6 @@
 // A second process that has files open: each line names one, which it holds until it ends.
 
 #include "support/OpenFile.h"
-#include "support/Peer.h"
 #include "support/TemporaryFolder.h"
 
 #include <iostream>
@@ -12,7 +11,6 @@
 
 int main()
 {
-    std::cout << norvepa::test::PeerIsReady << std::endl;
     std::list<norvepa::test::OpenFile> held;
     for (std::string path; std::getline(std::cin, path);)
     {

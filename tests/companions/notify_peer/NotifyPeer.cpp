@@ -4,7 +4,6 @@
 #include "norvepa.h"
 #include "support/LoadedLibrary.h"
 #include "support/NamedEvent.h"
-#include "support/Peer.h"
 #include "support/RedirectedRegistry.h"
 #include "support/TemporaryFolder.h"
 
@@ -183,7 +182,6 @@ int main()
 {
     const char* const key = std::getenv("NORV_TEST_MACHINE_KEY");
     const RedirectedRegistry registry(FromUtf8(key == nullptr ? "Software\\NorvepaBl64x.Tests\\peer" : key));
-    std::cout << PeerIsReady << std::endl;
     for (std::string line; std::getline(std::cin, line);)
     {
         std::cout << Answer(line) << std::endl;

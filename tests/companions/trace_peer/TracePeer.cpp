@@ -2,7 +2,6 @@
 
 #include "support/DebuggerStrings.h"
 #include "support/ImportHook.h"
-#include "support/Peer.h"
 #include "support/RedirectedRegistry.h"
 #include "support/TemporaryFolder.h"
 #include "trace/Norvotrc.h"
@@ -183,7 +182,6 @@ int main()
         {"debugger", [&](std::istream&) { return Debugger(strings); }},
     };
 
-    std::cout << test::PeerIsReady << std::endl;
     for (std::string line; std::getline(std::cin, line);)
     {
         std::istringstream arguments(line);
