@@ -63,7 +63,8 @@ std::string Shown(const std::wstring& buffer, std::uint32_t length)
 SmallStore::SmallStore()
 {
     store.UseOurSchemas();
-    WriteBytes(roots.board(L"AFK110"), BoardFile(BoardContent()));
+    // Its own word for itself is not its file's: who falls back on the file is seen.
+    WriteBytes(roots.board(L"AFK110"), BoardFile(BoardContent(), L"AFK 110"));
     WriteBytes(roots.protocol(L"MPI"), ProtocolFile(ProtocolContent()));
     WriteStore();
     if (RegisterNotification(L"LogDevices", nullptr, event.c_str()) != PGSP_OK)
