@@ -5,8 +5,8 @@
 #include "PlantStore.h"
 #include "Stopwatch.h"
 #include "Table.h"
+#include "catalogue/norvxmlCatalogue.h"
 #include "meta/cMetaFiles.h"
-#include "store/norvxmlCatalogue.h"
 #include "support/TemporaryFolder.h"
 
 #include <cstdio>

@@ -61,22 +61,22 @@ enum NorvepaResult
     PGSP_LOCKED_BY_OTHER_THREAD = 8204,          /* the lock is held by another thread */
     PGSP_ERR_FILE_NOT_FOUND = 8503,              /* the file is absent */
     PGSP_ERR_FILE_EXISTS = 8504,                 /* the file is there already */
-    PGSP_ERR_CANT_CREATE_XML_ENGINE = 8505,      /* the document engine can't be created: is COM initialised? */
-    PGSP_ERR_INVALID_FILE = 8506,                /* the file doesn't satisfy its schema */
-    PGSP_ERR_CANT_LOAD_XML_FILE = 8508,          /* the file can't be opened or parsed, or is too large */
-    PGSP_ERR_CANT_LOAD_SCHEMA = 8509,            /* the schema can't be loaded */
-    PGSP_ERR_CANT_CREATE_FILE = 8510,            /* the file can't be created or saved */
-    PGSP_ERR_CANT_DELETE_FILE = 8511,            /* the file can't be deleted */
-    PGSP_ERR_CANT_COPY_FILE = 8512,              /* the file can't be copied or renamed */
-    PGSP_ERR_PARAM_NOT_FOUND = 8513,             /* the file holds no such parameter, section or item */
-    PGSP_ERR_CANT_SET_VALUE = 8514,              /* neither the parameter nor a section to create it in */
-    PGSP_ERR_SAME_VALUE = 8515,                  /* the parameter has this value already */
-    PGSP_ERR_DRIVER_READ = 8516,                 /* the log device says nothing of what to load */
-    PGSP_ERR_FOLDER_NOT_FOUND = 8517,            /* the data folder or the program folder can't be found */
-    PGSP_ERR_DUPLICATE_EVENT = 8519,             /* the event is registered already */
-    PGSP_ERR_DRIVER_BUFFER = 8520,               /* a write into the driver's records failed */
-    PGSP_ERR_DRIVER_NO_MEMORY = 8521,            /* the driver's records can't grow */
-    PGSP_ERR_CANT_LOAD_RESOURCE = 8522           /* a resource text can't be loaded */
+    PGSP_ERR_CANT_CREATE_XML_ENGINE = 8505, /* the document engine can't be created: is COM initialised? */
+    PGSP_ERR_INVALID_FILE = 8506,           /* the file doesn't satisfy its schema */
+    PGSP_ERR_CANT_LOAD_XML_FILE = 8508,     /* the file can't be opened or parsed, or is too large */
+    PGSP_ERR_CANT_LOAD_SCHEMA = 8509,       /* the schema can't be loaded */
+    PGSP_ERR_CANT_CREATE_FILE = 8510,       /* the file can't be created or saved */
+    PGSP_ERR_CANT_DELETE_FILE = 8511,       /* the file can't be deleted */
+    PGSP_ERR_CANT_COPY_FILE = 8512,         /* the file can't be copied or renamed */
+    PGSP_ERR_PARAM_NOT_FOUND = 8513,        /* the file holds no such parameter, section or item */
+    PGSP_ERR_CANT_SET_VALUE = 8514,         /* neither the parameter nor a section to create it in */
+    PGSP_ERR_SAME_VALUE = 8515,             /* the parameter has this value already */
+    PGSP_ERR_DRIVER_READ = 8516,            /* the log device says nothing of what to load */
+    PGSP_ERR_FOLDER_NOT_FOUND = 8517,       /* the data folder or the program folder can't be found */
+    PGSP_ERR_DUPLICATE_EVENT = 8519,        /* the event is registered already */
+    PGSP_ERR_DRIVER_BUFFER = 8520,          /* a write into the driver's records failed */
+    PGSP_ERR_DRIVER_NO_MEMORY = 8521,       /* the driver's records can't grow */
+    PGSP_ERR_CANT_LOAD_RESOURCE = 8522      /* a resource text can't be loaded */
 };
 
 /* Log names: named access points, each linked to a log device -------------------------------------- */
@@ -184,7 +184,8 @@ int32_t LogNameGetLogDeviceBL(const wchar_t* LogName, wchar_t* LogDevice, uint32
  *
  * Notifies nobody.
  */
-int32_t LogNameGetValueBL(const wchar_t* LogName, const wchar_t* Parameter, wchar_t* Value, uint32_t* dwValue);
+int32_t LogNameGetValueBL(const wchar_t* LogName, const wchar_t* Parameter, wchar_t* Value,
+                          uint32_t* dwValue);
 
 /*
  * Sets one value of a log name, and adds the parameter when it isn't there. No word is protected.
@@ -239,8 +240,8 @@ int32_t LogNameGetEnumValueBL(const wchar_t* LogName, uint32_t index, wchar_t* P
 
 /*
  * Reads several values of a log name at once, or all of them. Arguments and results as
- * LogDeviceGetValueListBL, but that Section plays no part: a log name has one section. DeviceID and CP_TYPE are
- * attributes of the root element here, also when there is a parameter of that name.
+ * LogDeviceGetValueListBL, but that Section plays no part: a log name has one section. DeviceID and CP_TYPE
+ * are attributes of the root element here, also when there is a parameter of that name.
  */
 int32_t LogNameGetValueListBL(const wchar_t* LogName, const wchar_t* Section, const wchar_t* ParameterList,
                               int32_t paramListLength, wchar_t* Value, uint32_t* dwValue);
@@ -266,8 +267,8 @@ int32_t LogNameSetLogDeviceBL(const wchar_t* LogName, const wchar_t* LogDevice);
 /* Log devices: the configured access paths -----------------------------------------------------------
  *
  * A log device names its board by the attribute DeviceID and its protocol by CP_TYPE, and holds parameters in
- * sections. The board's file, or else the protocol's, says of a parameter where it is stored, what it may hold
- * and what stands in when it is absent. A subdevice is named device\subdevices\sub.
+ * sections. The board's file, or else the protocol's, says of a parameter where it is stored, what it may
+ * hold and what stands in when it is absent. A subdevice is named device\subdevices\sub.
  */
 
 /*
@@ -281,15 +282,16 @@ int32_t LogNameSetLogDeviceBL(const wchar_t* LogName, const wchar_t* LogDevice);
  *
  * PGSP_OK                      LogDevice and LogDeviceLen are set
  * PGSP_ERR_INVALID_PARAMETERS  LogDevice or LogDeviceLen is null, or the length is 0
- * PGSP_ERR_BUFFER_TOO_SHORT    a name up to this one, wanted or not, doesn't fit; the outputs are as they were
+ * PGSP_ERR_BUFFER_TOO_SHORT    a name up to this one, wanted or not, doesn't fit; the outputs are as they
+ *                              were
  * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one, or the folder can't be found
  */
 int32_t LogDeviceGetEnumBL(const wchar_t* lpszNetType, uint32_t index, wchar_t* LogDevice,
                            uint32_t* LogDeviceLen);
 
 /*
- * Enumerates all parameters of a log device, and at the end the attributes of its root element. Index 0 begins
- * anew; a walk to the end makes the next one see a changed file.
+ * Enumerates all parameters of a log device, and at the end the attributes of its root element. Index 0
+ * begins anew; a walk to the end makes the next one see a changed file.
  *
  *   LogDevice  in      the log device
  *   index      in      which one
@@ -379,9 +381,10 @@ int32_t LogDeviceGetValueBL(const wchar_t* LogDevice, const wchar_t* Parameter, 
  * PGSP_OK                      Value and dwValue are set
  * PGSP_ERR_INVALID_PARAMETERS  LogDevice is null or empty, an output is null, or the length is 0
  * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the value's length
- * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such log device, or its file can't be read; Value is empty, dwValue 0
- * PGSP_ERR_PARAM_NOT_FOUND     it has no such parameter; Value is empty, dwValue 0. Without a section also when
- *                              its value is too long and a section behind lacks it
+ * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such log device, or its file can't be read; Value is empty,
+ *                              dwValue 0
+ * PGSP_ERR_PARAM_NOT_FOUND     it has no such parameter; Value is empty, dwValue 0. Without a section also
+ *                              when its value is too long and a section behind lacks it
  * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
  */
 int32_t LogDeviceGetValueExBL(const wchar_t* LogDevice, const wchar_t* Section, const wchar_t* Parameter,
@@ -400,12 +403,13 @@ int32_t LogDeviceGetValueExBL(const wchar_t* LogDevice, const wchar_t* Section, 
  *                            behind the last
  *   dwValue          in/out  its length in characters; out, the characters written with all terminators
  *
- * PGSP_OK                      Value and dwValue are set; all of a log device that doesn't exist is an empty list
- * PGSP_ERR_INVALID_PARAMETERS  LogDevice is null or empty, an output is null, or a named parameter can't be read;
- *                              the outputs are as they were
- * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the characters needed, and the buffer's first 260 characters are as
- *                              they were; or only the last terminator has no room, and dwValue tells what was
- *                              written
+ * PGSP_OK                      Value and dwValue are set; all of a log device that doesn't exist is an empty
+ *                              list
+ * PGSP_ERR_INVALID_PARAMETERS  LogDevice is null or empty, an output is null, or a named parameter can't be
+ *                              read; the outputs are as they were
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the characters needed, and the buffer's first 260 characters are
+ *                              as they were; or only the last terminator has no room, and dwValue tells what
+ *                              was written
  * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
  */
 int32_t LogDeviceGetValueListBL(const wchar_t* LogDevice, const wchar_t* Section,
@@ -414,8 +418,8 @@ int32_t LogDeviceGetValueListBL(const wchar_t* LogDevice, const wchar_t* Section
 
 /*
  * Sets a parameter of a log device, once its value has been checked against the catalogue. A parameter that
- * the catalogue doesn't know takes any value. The words "min", "max" and "default", in any case, stand for the
- * catalogue's values of an "int" parameter, and those are stored.
+ * the catalogue doesn't know takes any value. The words "min", "max" and "default", in any case, stand for
+ * the catalogue's values of an "int" parameter, and those are stored.
  *
  *   LogDevice  in  the log device, or a subdevice of it
  *   Parameter  in  the parameter; null or "" stands for the parameter "default"
@@ -434,8 +438,8 @@ int32_t LogDeviceGetValueListBL(const wchar_t* LogDevice, const wchar_t* Section
  * PGSP_ERR_CANT_LOAD_XML_FILE      its file is malformed or over 10,000,000 bytes
  * PGSP_ERR_CANT_CREATE_XML_ENGINE  there is no document engine; for a subdevice: COM isn't initialised
  *
- * A refused value leaves the file as it is. Notifies "LogDevices", the log device, for a subdevice the one that
- * it belongs to, when the value is another than before.
+ * A refused value leaves the file as it is. Notifies "LogDevices", the log device, for a subdevice the one
+ * that it belongs to, when the value is another than before.
  */
 int32_t LogDeviceSetValueBL(const wchar_t* LogDevice, const wchar_t* Parameter, const wchar_t* Value);
 
@@ -452,8 +456,8 @@ int32_t LogDeviceDelValueBL(const wchar_t* LogDevice, const wchar_t* Parameter);
 
 /* Boards: what the catalogue says of communication boards -------------------------------------------
  *
- * A board is named by the DeviceID of a log device, with or without a leading "*", by its bare name, or by its
- * file's name, which begins with "Automation-OnlineAccess-BT-".
+ * A board is named by the DeviceID of a log device, with or without a leading "*", by its bare name, or by
+ * its file's name, which begins with "Automation-OnlineAccess-BT-".
  */
 
 /*
@@ -469,7 +473,7 @@ int32_t LogDeviceDelValueBL(const wchar_t* LogDevice, const wchar_t* Parameter);
  *   valLen     in/out  its length in characters
  *
  * PGSP_OK                      all four are set
- * PGSP_ERR_INVALID_PARAMETERS  Board is null or empty, an output is null, or, without a section, a length is 0
+ * PGSP_ERR_INVALID_PARAMETERS  Board is null or empty, an output is null, or a length is 0 without a section
  * PGSP_ERR_BUFFER_TOO_SHORT    a buffer is too small and its length now tells; the name goes first, so a
  *                              name that doesn't fit leaves Value and valLen as they were
  * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one. Without a section the file is read anew then
@@ -733,9 +737,9 @@ int32_t PGSP_GetLogDeviceListBL(wchar_t* LogDevices, uint32_t* dwLogDevices);
 int32_t PGSP_GetLogNameListBL(wchar_t* LogNames, uint32_t* dwLogNames);
 
 /*
- * Reads the names of the log devices in which a parameter has a value, or another one. Hidden and temporary log
- * devices take part; those in which the parameter has no value, also no default, or one of 260 characters and
- * more, don't.
+ * Reads the names of the log devices in which a parameter has a value, or another one. Hidden and temporary
+ * log devices take part; those in which the parameter has no value, also no default, or one of 260 characters
+ * and more, don't.
  *
  *   EntryName     in      the parameter
  *   EntryValue    in      the value, compared without regard to case
@@ -744,7 +748,7 @@ int32_t PGSP_GetLogNameListBL(wchar_t* LogNames, uint32_t* dwLogNames);
  *   dwLogDevices  in/out  its length in characters; out, the characters written with all terminators
  *
  * Results as PGSP_GetLogDeviceListBL, but that an empty list is
- * PGSP_ERR_NO_MORE_ITEMS       no log device is meant; the buffer begins with two terminators, dwLogDevices is 1
+ * PGSP_ERR_NO_MORE_ITEMS       no log device is meant; the buffer is two terminators, and dwLogDevices 1
  * and EntryName and EntryValue must not be null or empty either.
  */
 int32_t PGSP_GetLogDeviceListExBL(const wchar_t* EntryName, const wchar_t* EntryValue, uint32_t mode,

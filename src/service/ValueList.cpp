@@ -1,7 +1,7 @@
 #include "service/ValueList.h"
 
+#include "catalogue/norvxmlCatalogue.h"
 #include "frame/PackStringList.h"
-#include "store/norvxmlCatalogue.h"
 
 namespace norvepa
 {

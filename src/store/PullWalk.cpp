@@ -87,4 +87,22 @@ bool ReadChildText(PullReader& reader, std::wstring_view endName, std::wstring_v
     return XmlSeekChild(reader, endName, name) && XmlReadText(reader, name, text);
 }
 
+bool IsParamSectionOf(PullReader& reader, std::wstring_view param)
+{
+    std::wstring met;
+    return XmlGetAttribute(reader, L"Param", met) && EqualNoCase(met, param);
+}
+
+bool SeekParamSection(PullReader& reader, std::wstring_view param)
+{
+    while (SeekSection(reader, L"ParamSection"))
+    {
+        if (IsParamSectionOf(reader, param))
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace norvepa

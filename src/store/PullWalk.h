@@ -38,4 +38,10 @@ inline constexpr std::wstring_view SpareSection = L"SpareSection";
 [[nodiscard]] bool ReadChildText(PullReader& reader, std::wstring_view endName, std::wstring_view name,
                                  std::wstring& text);
 
+// True at the `ParamSection` last entered when its `Param` is this one.
+[[nodiscard]] bool IsParamSectionOf(PullReader& reader, std::wstring_view param);
+
+// On to the next `ParamSection` of this `Param`, at any depth. False when the file has ended.
+[[nodiscard]] bool SeekParamSection(PullReader& reader, std::wstring_view param);
+
 } // namespace norvepa

@@ -1,6 +1,5 @@
 #include "frame/Arguments.h"
 #include "frame/Text.h"
-#include "store/CatalogueWalk.h"
 #include "store/PullWalk.h"
 #include "store/norvxml.h"
 

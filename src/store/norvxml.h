@@ -1,8 +1,8 @@
 #pragma once
 
-// The store's operations on files and on the values in them; the queries of the catalogue are in
-// norvxmlCatalogue.h. Each opens its file, does its work and
-// forgets it: the store has no state, and what one call read says nothing about the next.
+// The store's operations on files and on the values in them. Each opens its file, does its work and forgets
+// it: the store has no state, and what one call read says nothing about the next. The questions to boards,
+// protocols and templates are on the floor above, in catalogue/norvxmlCatalogue.h.
 //
 // Conventions: `filePath` is a full path without extension whose last component is a plain name; the
 // store escapes it and appends ".xml". An output is untouched when an argument is refused or the file

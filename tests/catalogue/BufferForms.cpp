@@ -1,6 +1,6 @@
 #include "catalogue/BufferForms.h"
 
-#include "store/norvxmlCatalogue.h"
+#include "catalogue/norvxmlCatalogue.h"
 
 namespace norvepa::test
 {

@@ -4,7 +4,7 @@
 // queries take them. What was parsed stays in memory, which is why every scene has a folder that none had
 // before.
 
-#include "store/norvxmlCatalogue.h"
+#include "catalogue/norvxmlCatalogue.h"
 #include "support/TemporaryFolder.h"
 #include "support/XmlFiles.h"
 

@@ -1,4 +1,4 @@
-#include "store/norvxmlCatalogue.h"
+#include "catalogue/norvxmlCatalogue.h"
 #include "support/RedirectedRegistry.h"
 #include "support/StoreRoots.h"
 #include "support/TemporaryFolder.h"

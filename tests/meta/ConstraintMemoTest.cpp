@@ -1,8 +1,8 @@
+#include "catalogue/norvxmlCatalogue.h"
 #include "meta/CachedMetaFile.h"
 #include "meta/MetaScene.h"
 #include "meta/cMetaFiles.h"
 #include "notify/directoryCache.h"
-#include "store/norvxmlCatalogue.h"
 
 #include <optional>
 #include <ostream>

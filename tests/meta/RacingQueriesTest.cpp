@@ -1,7 +1,7 @@
+#include "catalogue/norvxmlCatalogue.h"
 #include "meta/CachedMetaFile.h"
 #include "meta/MetaScene.h"
 #include "meta/cMetaFiles.h"
-#include "store/norvxmlCatalogue.h"
 #include "support/AllAtOnce.h"
 #include "support/OutputBuffer.h"
 

@@ -1,6 +1,6 @@
+#include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
-#include "store/norvxmlCatalogue.h"
 
 namespace norvepa
 {

@@ -1,8 +1,8 @@
 #include "service/norvepaLogDevBl64/DeviceCatalogue.h"
 
+#include "catalogue/norvxmlCatalogue.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 #include "service/norvepaPgspBl64/norvepaPgspBl64.h"
-#include "store/norvxmlCatalogue.h"
 
 namespace norvepa
 {

@@ -1,9 +1,9 @@
+#include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "norvepa.h"
 #include "service/norvepaLogDevBl64/DeviceWalk.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 #include "store/norvxml.h"
-#include "store/norvxmlCatalogue.h"
 
 using namespace norvepa;
 

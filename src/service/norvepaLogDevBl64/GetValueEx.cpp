@@ -1,8 +1,8 @@
+#include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "norvepa.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 #include "store/norvxml.h"
-#include "store/norvxmlCatalogue.h"
 
 using namespace norvepa;
 

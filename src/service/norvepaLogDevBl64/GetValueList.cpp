@@ -1,10 +1,10 @@
+#include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "frame/PackStringList.h"
 #include "norvepa.h"
 #include "service/ValueList.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 #include "store/norvxml.h"
-#include "store/norvxmlCatalogue.h"
 
 using namespace norvepa;
 

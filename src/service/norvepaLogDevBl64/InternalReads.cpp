@@ -1,7 +1,7 @@
+#include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 #include "store/norvxml.h"
-#include "store/norvxmlCatalogue.h"
 
 namespace norvepa
 {

@@ -1,10 +1,10 @@
+#include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "frame/ExportFrame.h"
 #include "frame/Text.h"
 #include "norvepa.h"
 #include "service/norvepaLogNamBl64/norvepaLogNamBl64.h"
 #include "store/norvxml.h"
-#include "store/norvxmlCatalogue.h"
 
 #include <string>
 

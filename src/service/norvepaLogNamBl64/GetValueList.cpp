@@ -1,3 +1,4 @@
+#include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "frame/PackStringList.h"
 #include "norvepa.h"
@@ -5,7 +6,6 @@
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 #include "service/norvepaLogNamBl64/norvepaLogNamBl64.h"
 #include "store/norvxml.h"
-#include "store/norvxmlCatalogue.h"
 
 using namespace norvepa;
 

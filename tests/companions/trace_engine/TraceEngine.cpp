@@ -49,33 +49,33 @@ std::string Hexadecimal(const unsigned char* bytes, int count)
 extern "C"
 {
 
-    int TraceOpenA(const char* metaInfo, const char* settings, const char* folder, int unused,
-                   const char* version, int* handle)
-    {
-        Log(std::string("open ") + metaInfo + "," + settings + "," + folder + "," + std::to_string(unused) +
-            "," + version);
-        *handle = TheHandle;
-        return ResultOf("NORV_TEST_ENGINE_OPEN");
-    }
+int TraceOpenA(const char* metaInfo, const char* settings, const char* folder, int unused,
+               const char* version, int* handle)
+{
+    Log(std::string("open ") + metaInfo + "," + settings + "," + folder + "," + std::to_string(unused) + "," +
+        version);
+    *handle = TheHandle;
+    return ResultOf("NORV_TEST_ENGINE_OPEN");
+}
 
-    int TraceWrite(int handle, int first, int second, const unsigned char* buffer, int length)
-    {
-        Log("write " + std::to_string(handle) + "," + std::to_string(first) + "," + std::to_string(second) +
-            "," + Hexadecimal(buffer, 4) + "," +
-            std::string(reinterpret_cast<const char*>(buffer) + 4, static_cast<std::size_t>(length - 4)));
-        return ResultOf("NORV_TEST_ENGINE_WRITE");
-    }
+int TraceWrite(int handle, int first, int second, const unsigned char* buffer, int length)
+{
+    Log("write " + std::to_string(handle) + "," + std::to_string(first) + "," + std::to_string(second) + "," +
+        Hexadecimal(buffer, 4) + "," +
+        std::string(reinterpret_cast<const char*>(buffer) + 4, static_cast<std::size_t>(length - 4)));
+    return ResultOf("NORV_TEST_ENGINE_WRITE");
+}
 
-    int TraceCommand()
-    {
-        Log("command");
-        return 0;
-    }
+int TraceCommand()
+{
+    Log("command");
+    return 0;
+}
 
-    int TraceClose()
-    {
-        Log("close");
-        return 0;
-    }
+int TraceClose()
+{
+    Log("close");
+    return 0;
+}
 
 } // extern "C"

@@ -1,12 +1,12 @@
+#include "catalogue/CatalogueWalk.h"
+#include "catalogue/Collections.h"
+#include "catalogue/norvxmlCatalogue.h"
 #include "frame/FileNames.h"
 #include "frame/StoreLocations.h"
 #include "meta/cEpaBlCache.h"
 #include "meta/cMetaFiles.h"
 #include "store/BufferForms.h"
-#include "store/CatalogueWalk.h"
-#include "store/Collections.h"
 #include "store/PullWalk.h"
-#include "store/norvxmlCatalogue.h"
 #include "trace/TraceStatement.h"
 
 namespace norvepa

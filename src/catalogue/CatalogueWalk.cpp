@@ -1,8 +1,7 @@
-#include "store/CatalogueWalk.h"
+#include "catalogue/CatalogueWalk.h"
 
 #include "frame/StoreLocations.h"
 #include "frame/Text.h"
-#include "store/PullWalk.h"
 #include "store/norvxml.h"
 
 namespace norvepa
@@ -13,24 +12,6 @@ std::wstring CatalogueFile(const wchar_t* filePath)
     std::wstring file(filePath);
     ExtendByAnywhereRule(file);
     return file;
-}
-
-bool IsParamSectionOf(PullReader& reader, std::wstring_view param)
-{
-    std::wstring met;
-    return XmlGetAttribute(reader, L"Param", met) && EqualNoCase(met, param);
-}
-
-bool SeekParamSection(PullReader& reader, std::wstring_view param)
-{
-    while (SeekSection(reader, L"ParamSection"))
-    {
-        if (IsParamSectionOf(reader, param))
-        {
-            return true;
-        }
-    }
-    return false;
 }
 
 Result LoadCatalogue(const std::wstring& file, Document& document)

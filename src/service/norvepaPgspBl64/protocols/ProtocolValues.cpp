@@ -1,7 +1,7 @@
+#include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "norvepa.h"
 #include "service/norvepaPgspBl64/norvepaPgspBl64.h"
-#include "store/norvxmlCatalogue.h"
 
 using namespace norvepa;
 

@@ -1,6 +1,7 @@
 #pragma once
 
-// The store's queries of the catalogue: boards, protocols, templates.
+// The questions to the catalogue: boards, protocols, templates; some are put to log devices and log names
+// too.
 //
 // Each query has its own way to the file, which decides what it sees:
 //   pull      the file as it is now, up to the first match
@@ -10,7 +11,7 @@
 // PGSP_ERR_CANT_LOAD_XML_FILE for a file that isn't there, but PGSP_ERR_FILE_NOT_FOUND where a document is
 // loaded. Buffer forms end with the output rule; of two texts the first is copied ahead of the second.
 //
-// Arguments and outputs are as in norvxml.h.
+// Arguments and outputs are as in store/norvxml.h.
 
 #include "frame/Result.h"
 #include "store/BufferForms.h"

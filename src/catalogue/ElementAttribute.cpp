@@ -1,7 +1,7 @@
+#include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "store/BufferForms.h"
 #include "store/PullWalk.h"
-#include "store/norvxmlCatalogue.h"
 
 namespace norvepa
 {

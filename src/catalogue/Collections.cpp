@@ -1,4 +1,4 @@
-#include "store/Collections.h"
+#include "catalogue/Collections.h"
 
 namespace norvepa
 {

@@ -1,9 +1,9 @@
+#include "catalogue/CatalogueWalk.h"
+#include "catalogue/Collections.h"
+#include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "frame/StoreLocations.h"
 #include "meta/cMetaFiles.h"
-#include "store/CatalogueWalk.h"
-#include "store/Collections.h"
-#include "store/norvxmlCatalogue.h"
 
 // Queries of the value collections below the constraints of a parsed file, and of what a value selects there.
 

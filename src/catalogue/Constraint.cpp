@@ -1,8 +1,9 @@
+#include "catalogue/CatalogueWalk.h"
+#include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "frame/Text.h"
 #include "meta/CachedMetaFile.h"
-#include "store/CatalogueWalk.h"
-#include "store/norvxmlCatalogue.h"
+#include "store/PullWalk.h"
 
 #include <optional>
 

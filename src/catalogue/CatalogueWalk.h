@@ -5,7 +5,6 @@
 #include "frame/Result.h"
 #include "meta/cEpaBlElement.h"
 #include "xml/Document.h"
-#include "xml/PullReader.h"
 
 #include <string>
 #include <string_view>
@@ -16,12 +15,6 @@ namespace norvepa
 
 // A path as catalogue queries take it: the extension added by the anywhere rule, the name not escaped.
 [[nodiscard]] std::wstring CatalogueFile(const wchar_t* filePath);
-
-// Pull: true at the `ParamSection` last entered when its `Param` is this one.
-[[nodiscard]] bool IsParamSectionOf(PullReader& reader, std::wstring_view param);
-
-// Pull: on to the next `ParamSection` of this `Param`, at any depth. False when the file has ended.
-[[nodiscard]] bool SeekParamSection(PullReader& reader, std::wstring_view param);
 
 // Document: the file loaded; unlike the writers' load, only the size guard has a word for the trace.
 // PGSP_ERR_CANT_CREATE_XML_ENGINE, PGSP_ERR_FILE_NOT_FOUND, PGSP_ERR_CANT_LOAD_XML_FILE.

@@ -1,9 +1,9 @@
+#include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "frame/Text.h"
 #include "norvepa.h"
 #include "service/norvepaPgspBl64/norvepaPgspBl64.h"
 #include "store/norvxml.h"
-#include "store/norvxmlCatalogue.h"
 
 #include <algorithm>
 #include <vector>

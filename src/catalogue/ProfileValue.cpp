@@ -1,8 +1,8 @@
+#include "catalogue/CatalogueWalk.h"
+#include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "meta/cMetaFiles.h"
 #include "store/BufferForms.h"
-#include "store/CatalogueWalk.h"
-#include "store/norvxmlCatalogue.h"
 
 namespace norvepa
 {

@@ -1,7 +1,7 @@
+#include "catalogue/CatalogueWalk.h"
+#include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "frame/Text.h"
-#include "store/CatalogueWalk.h"
-#include "store/norvxmlCatalogue.h"
 
 #include <algorithm>
 #include <optional>
