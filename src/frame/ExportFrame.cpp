@@ -6,34 +6,34 @@
 namespace norvepa
 {
 
-Result ExportFrame::Return(Result result) const noexcept
+Result ExportFrame::Return(Result result, TracePlace place) const noexcept
 {
-    NORV_TRACE(*this, TraceExit, "<< return lRet = %d", result);
+    NORV_TRACE_AT(place, *this, TraceExit, "<< return lRet = %d", result);
     return result;
 }
 
-Result ExportFrame::InvalidParameters() const noexcept
+Result ExportFrame::InvalidParameters(TracePlace place) const noexcept
 {
-    NORV_TRACE(*this, TraceExit, "<< return PGSP_ERR_INVALID_PARAMETERS");
+    NORV_TRACE_AT(place, *this, TraceExit, "<< return PGSP_ERR_INVALID_PARAMETERS");
     return PGSP_ERR_INVALID_PARAMETERS;
 }
 
-Result ExportFrame::Ok() const noexcept
+Result ExportFrame::Ok(TracePlace place) const noexcept
 {
-    NORV_TRACE(*this, TraceExit, "<< return PGSP_OK");
+    NORV_TRACE_AT(place, *this, TraceExit, "<< return PGSP_OK");
     return PGSP_OK;
 }
 
-Result ExportFrame::BufferTooShort() const noexcept
+Result ExportFrame::BufferTooShort(TracePlace place) const noexcept
 {
-    NORV_TRACE(*this, TraceExit, "<< return PGSP_ERR_BUFFER_TOO_SHORT");
+    NORV_TRACE_AT(place, *this, TraceExit, "<< return PGSP_ERR_BUFFER_TOO_SHORT");
     return PGSP_ERR_BUFFER_TOO_SHORT;
 }
 
-Result ExportFrame::FolderNotFound(const char* whichFolder) const noexcept
+Result ExportFrame::FolderNotFound(const char* whichFolder, TracePlace place) const noexcept
 {
-    NORV_TRACE(*this, TraceInfo, "%s", whichFolder);
-    return Return(PGSP_ERR_FOLDER_NOT_FOUND);
+    NORV_TRACE_AT(place, *this, TraceInfo, "%s", whichFolder);
+    return Return(PGSP_ERR_FOLDER_NOT_FOUND, place);
 }
 
 Result AnswerOf(int32_t exportsResult)
@@ -46,7 +46,7 @@ Result AnswerOf(int32_t exportsResult)
     return result;
 }
 
-Result ExportFrame::Escaped() const noexcept
+Result ExportFrame::Escaped(TracePlace place) const noexcept
 {
     try
     {
@@ -54,17 +54,17 @@ Result ExportFrame::Escaped() const noexcept
     }
     catch (const std::bad_alloc&)
     {
-        NORV_TRACE(*this, TraceWarning, "Error: out of memory");
+        NORV_TRACE_AT(place, *this, TraceWarning, "Error: out of memory");
         return OutOfMemory;
     }
     catch (const std::exception& exception)
     {
-        NORV_TRACE(*this, TraceWarning, "Error: exception %s", exception.what());
+        NORV_TRACE_AT(place, *this, TraceWarning, "Error: exception %s", exception.what());
         return PGSP_ERR_INVALID_PARAMETERS;
     }
     catch (...)
     {
-        NORV_TRACE(*this, TraceWarning, "Error: unknown exception");
+        NORV_TRACE_AT(place, *this, TraceWarning, "Error: unknown exception");
         return PGSP_ERR_INVALID_PARAMETERS;
     }
 }

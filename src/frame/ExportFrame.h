@@ -4,7 +4,8 @@
 //
 // Callers may rely on: whatever the body throws, the export returns a code and the caller's process
 // goes on. Callers must: trace the entry first, then test the arguments in their order, and leave
-// through one of the exits named here or a trace of their own.
+// through one of the exits named here or a trace of their own. A function that takes such an exit for several
+// exports hands the place of its own call down to it, so that a trace tells the line of the export that left.
 
 #include "frame/Result.h"
 #include "trace/TraceStatement.h"
@@ -18,20 +19,23 @@ struct ExportFrame
     const char* tag;
     const char* component = " BL";
 
-    // The usual exits, each with its trace.
-    [[nodiscard]] Result Return(Result result) const noexcept;
-    [[nodiscard]] Result Ok() const noexcept;
-    [[nodiscard]] Result InvalidParameters() const noexcept;
-    [[nodiscard]] Result BufferTooShort() const noexcept;
-    [[nodiscard]] Result FolderNotFound(const char* whichFolder) const noexcept;
+    // The usual exits, each with its trace, which names the place where the exit was taken.
+    [[nodiscard]] Result Return(Result result, TracePlace place = TracePlace::current()) const noexcept;
+    [[nodiscard]] Result Ok(TracePlace place = TracePlace::current()) const noexcept;
+    [[nodiscard]] Result InvalidParameters(TracePlace place = TracePlace::current()) const noexcept;
+    [[nodiscard]] Result BufferTooShort(TracePlace place = TracePlace::current()) const noexcept;
+    [[nodiscard]] Result FolderNotFound(const char* whichFolder,
+                                        TracePlace place = TracePlace::current()) const noexcept;
 
     // For RunExport alone: the code for the exception in flight.
-    [[nodiscard]] Result Escaped() const noexcept;
+    [[nodiscard]] Result Escaped(TracePlace place) const noexcept;
 };
 
-// Runs an export's body, a callable that takes the frame. `tag` is the export's name, a colon, a blank.
+// Runs an export's body, a callable that takes the frame. `tag` is the export's name, a colon, a blank. What
+// escapes from the body is traced at the place of this call.
 template <typename Body>
-[[nodiscard]] int32_t RunExport(const char* tag, const Body& body) noexcept
+[[nodiscard]] int32_t RunExport(const char* tag, const Body& body,
+                                TracePlace place = TracePlace::current()) noexcept
 {
     const ExportFrame frame{tag};
     try
@@ -40,7 +44,7 @@ template <typename Body>
     }
     catch (...)
     {
-        return frame.Escaped();
+        return frame.Escaped(place);
     }
 }
 

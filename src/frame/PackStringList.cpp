@@ -45,28 +45,29 @@ Packing PackStringList(std::span<const std::wstring> strings, wchar_t* buffer, s
     return packing;
 }
 
-Result NotAllReturned(const ExportFrame& frame, const Packing& packing, std::uint32_t* length)
+Result NotAllReturned(const ExportFrame& frame, const Packing& packing, std::uint32_t* length,
+                      TracePlace place)
 {
     *length = packing.needed;
-    NORV_TRACE(frame, TraceInfo, "Not all values are returned");
-    return frame.BufferTooShort();
+    NORV_TRACE_AT(place, frame, TraceInfo, "Not all values are returned");
+    return frame.BufferTooShort(place);
 }
 
 Result ReturnStringList(const ExportFrame& frame, std::span<const std::wstring> strings, wchar_t* buffer,
-                        std::uint32_t* length)
+                        std::uint32_t* length, TracePlace place)
 {
     const Packing packing = PackStringList(strings, buffer, *length);
     if (packing.outcome == PackOutcome::TooShort)
     {
-        return NotAllReturned(frame, packing, length);
+        return NotAllReturned(frame, packing, length, place);
     }
     if (packing.outcome == PackOutcome::NoRoomForEnd)
     {
         *length = packing.written;
-        return frame.BufferTooShort();
+        return frame.BufferTooShort(place);
     }
     *length = packing.written + 1;
-    return frame.Ok();
+    return frame.Ok(place);
 }
 
 std::vector<std::wstring> SplitStringList(const wchar_t* list, std::int64_t length)

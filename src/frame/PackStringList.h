@@ -40,12 +40,14 @@ inline constexpr std::size_t KeptCharacters = 260;
                                      std::uint32_t capacity);
 
 // The exit of a packing that is TooShort: PGSP_ERR_BUFFER_TOO_SHORT, with `*length` set to what is needed.
-[[nodiscard]] Result NotAllReturned(const ExportFrame& frame, const Packing& packing, std::uint32_t* length);
+[[nodiscard]] Result NotAllReturned(const ExportFrame& frame, const Packing& packing, std::uint32_t* length,
+                                    TracePlace place = TracePlace::current());
 
 // Packs and leaves, as exports without an edge of their own do: a list without room for its end is too short
 // as well, with `*length` set to what was written.
 [[nodiscard]] Result ReturnStringList(const ExportFrame& frame, std::span<const std::wstring> strings,
-                                      wchar_t* buffer, std::uint32_t* length);
+                                      wchar_t* buffer, std::uint32_t* length,
+                                      TracePlace place = TracePlace::current());
 
 // The strings of a caller's list whose characters, terminators included, count `length`: a length that counts
 // a terminator behind the last brings an empty string. None for a negative length.

@@ -34,11 +34,11 @@ bool IsAccessMode(std::int32_t flag) noexcept
     return flag == 0 || flag == 2 || flag == 4 || flag == 6;
 }
 
-Result TestAccess(const ExportFrame& frame, std::wstring file, std::int32_t flag)
+Result TestAccess(const ExportFrame& frame, std::wstring file, std::int32_t flag, TracePlace place)
 {
     ExtendByAnywhereRule(file);
     const errno_t error = _waccess_s(file.c_str(), flag);
-    NORV_TRACE(frame, TraceExit, "<< errno_t err = %d", error);
+    NORV_TRACE_AT(place, frame, TraceExit, "<< errno_t err = %d", error);
     return ResultOfAccess(error);
 }
 

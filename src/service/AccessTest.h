@@ -15,6 +15,7 @@ namespace norvepa
 
 // Asks the system about a file; ".xml" is added by the anywhere rule. PGSP_OK, PGSP_ERR_FILE_NOT_FOUND,
 // PGSP_ERR_ACCESS_DENIED, or PGSP_ERR_INVALID_PARAMETERS for a name that makes no path.
-[[nodiscard]] Result TestAccess(const ExportFrame& frame, std::wstring file, std::int32_t flag);
+[[nodiscard]] Result TestAccess(const ExportFrame& frame, std::wstring file, std::int32_t flag,
+                                TracePlace place = TracePlace::current());
 
 } // namespace norvepa

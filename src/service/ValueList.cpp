@@ -50,11 +50,11 @@ std::vector<std::wstring> EnumerateAll(const ExportFrame& frame, const std::wstr
 }
 
 Result ReturnValueList(const ExportFrame& frame, std::span<const std::wstring> values, wchar_t* buffer,
-                       std::uint32_t* length)
+                       std::uint32_t* length, TracePlace place)
 {
     NORV_TRACE(frame, TraceInfo, "ResultList-Length: Length=%d", static_cast<int>(values.size()));
     TraceValues(frame, values, *length);
-    return ReturnStringList(frame, values, buffer, length);
+    return ReturnStringList(frame, values, buffer, length, place);
 }
 
 } // namespace norvepa

@@ -18,6 +18,7 @@ namespace norvepa
 
 // Packs a list of values into the caller's buffer and leaves.
 [[nodiscard]] Result ReturnValueList(const ExportFrame& frame, std::span<const std::wstring> values,
-                                     wchar_t* buffer, std::uint32_t* length);
+                                     wchar_t* buffer, std::uint32_t* length,
+                                     TracePlace place = TracePlace::current());
 
 } // namespace norvepa

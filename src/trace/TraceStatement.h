@@ -12,6 +12,7 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <source_location>
 
 namespace norvepa
 {
@@ -28,6 +29,10 @@ struct TraceSource
     const char* tag;
     const char* component;
 };
+
+// The place in the source that a trace names. A statement names its own; a function that traces for others takes
+// that of its call as its last argument, defaulted to TracePlace::current(): one address, made by the compiler.
+using TracePlace = std::source_location;
 
 // What a statement looks at. Written under the trace mutex only, read by everyone without it.
 namespace trace_state
@@ -69,13 +74,17 @@ void TraceOut(const char* tag, std::uint32_t level, const char* component, std::
 } // namespace norvepa
 
 #define NORV_TRACE(source, level, ...)                                                                       \
+    NORV_TRACE_AT(::norvepa::TracePlace::current(), source, level, __VA_ARGS__)
+
+// The same in the name of another place.
+#define NORV_TRACE_AT(place, source, level, ...)                                                             \
     do                                                                                                       \
     {                                                                                                        \
         if (::norvepa::TraceWanted(level)) [[unlikely]]                                                      \
         {                                                                                                    \
             ::norvepa::TraceLock();                                                                          \
-            ::norvepa::TraceOut((source).tag, level, (source).component, 0, 0, __FILE__, __LINE__,           \
-                                ::norvepa::TraceFormat(__VA_ARGS__));                                        \
+            ::norvepa::TraceOut((source).tag, level, (source).component, 0, 0, (place).file_name(),          \
+                                static_cast<int>((place).line()), ::norvepa::TraceFormat(__VA_ARGS__));      \
             ::norvepa::TraceUnlock();                                                                        \
         }                                                                                                    \
     } while (false)

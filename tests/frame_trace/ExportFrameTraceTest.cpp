@@ -3,6 +3,7 @@
 #include "support/TraceLines.h"
 #include "trace/Norvotrc.h"
 
+#include <cstdio>
 #include <gmock/gmock.h>
 #include <new>
 #include <optional>
@@ -38,6 +39,14 @@ protected:
     }
 
     [[nodiscard]] std::vector<std::string> Lines() const { return m_lines->read(); }
+
+    // How the format "LONG" tells a line of this file.
+    [[nodiscard]] static std::string PlaceAt(unsigned line)
+    {
+        char place[32] = "";
+        std::snprintf(place, sizeof place, " ExportFrameT,%05u ", line);
+        return place;
+    }
 
     const ExportFrame frame{Tag};
 
@@ -105,6 +114,30 @@ TEST_F(ExportFrameTrace, NamesTheComponentAndTheLevelInTheLongerFormats)
 
     EXPECT_THAT(Lines(),
                 ElementsAre("S NvEPBL64 FE  BL  0  0000 AnExportBL:  << return PGSP_ERR_INVALID_PARAMETERS"));
+}
+
+TEST_F(ExportFrameTrace, NamesThePlaceWhereEachExitWasTaken)
+{
+    Trace(L"0x80", L"LONG");
+    const unsigned lineAhead = __LINE__;
+    static_cast<void>(frame.Return(PGSP_OK));
+    static_cast<void>(frame.Ok());
+    static_cast<void>(frame.InvalidParameters());
+    static_cast<void>(frame.BufferTooShort());
+    static_cast<void>(frame.FolderNotFound("Can not get ProgramData Path"));
+
+    EXPECT_THAT(Lines(), ElementsAre(HasSubstr(PlaceAt(lineAhead + 1)), HasSubstr(PlaceAt(lineAhead + 2)),
+                                     HasSubstr(PlaceAt(lineAhead + 3)), HasSubstr(PlaceAt(lineAhead + 4)),
+                                     HasSubstr(PlaceAt(lineAhead + 5))));
+}
+
+TEST_F(ExportFrameTrace, NamesThePlaceOfTheExportForWhatEscapesFromIt)
+{
+    Trace(L"0x10", L"LONG");
+    const unsigned lineAhead = __LINE__;
+    static_cast<void>(RunExport(Tag, [](const ExportFrame&) -> Result { throw std::bad_alloc(); }));
+
+    EXPECT_THAT(Lines(), ElementsAre(HasSubstr(PlaceAt(lineAhead + 1))));
 }
 
 TEST_F(ExportFrameTrace, WarnsOfWhatEscapesFromABody)

@@ -16,16 +16,16 @@ const std::wstring& DeviceCatalogue::dataFolder()
     return *m_dataFolder;
 }
 
-std::optional<Result> DeviceCatalogue::Unavailable(const ExportFrame& frame)
+std::optional<Result> DeviceCatalogue::Unavailable(const ExportFrame& frame, TracePlace place)
 {
     if (dataFolder().empty())
     {
-        return frame.FolderNotFound("Can not get ProgramData Path");
+        return frame.FolderNotFound("Can not get ProgramData Path", place);
     }
     if (ProgramFolder().empty())
     {
         NORV_TRACE(frame, TraceInfo, "Can not get Corvane OAM path from Program Files");
-        return frame.Return(PGSP_OK);
+        return frame.Return(PGSP_OK, place);
     }
     if (m_board.empty())
     {

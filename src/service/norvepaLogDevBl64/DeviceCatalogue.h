@@ -31,7 +31,8 @@ public:
     // The exit, traced, when one of the roots isn't there; none when the two files are known. Without a data
     // folder it is PGSP_ERR_FOLDER_NOT_FOUND; without a program folder PGSP_OK: nothing is known, so
     // everything passes.
-    [[nodiscard]] std::optional<Result> Unavailable(const ExportFrame& frame);
+    [[nodiscard]] std::optional<Result> Unavailable(const ExportFrame& frame,
+                                                    TracePlace place = TracePlace::current());
 
     // Store paths. What can't be read of the log device makes a file name that nothing has.
     [[nodiscard]] const std::wstring& board() const noexcept { return m_board; }

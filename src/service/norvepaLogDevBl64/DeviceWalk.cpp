@@ -74,25 +74,25 @@ bool DeviceWalk::IsEnumerated(const std::wstring& name) const
     return true;
 }
 
-void TraceEnumEntry(const ExportFrame& frame, const wchar_t* netType, std::uint32_t index)
+void TraceEnumEntry(const ExportFrame& frame, const wchar_t* netType, std::uint32_t index, TracePlace place)
 {
     if (netType == nullptr)
     {
-        NORV_TRACE(frame, TraceEntry, ">> lpszNetType = NULL, index = %d", index);
+        NORV_TRACE_AT(place, frame, TraceEntry, ">> lpszNetType = NULL, index = %d", index);
         return;
     }
-    NORV_TRACE(frame, TraceEntry, ">> lpszNetType = %s, index = %d", TraceToAnsi(netType), index);
+    NORV_TRACE_AT(place, frame, TraceEntry, ">> lpszNetType = %s, index = %d", TraceToAnsi(netType), index);
 }
 
-void TraceEnumFound(const ExportFrame& frame, const std::wstring& name, std::uint32_t index)
+void TraceEnumFound(const ExportFrame& frame, const std::wstring& name, std::uint32_t index, TracePlace place)
 {
-    NORV_TRACE(frame, TraceExit, "<< return LogDeviceName = %s, LogDeviceLen = %d, index = %d",
-               TraceToAnsi(name.c_str()), static_cast<std::uint32_t>(name.size()), index);
+    NORV_TRACE_AT(place, frame, TraceExit, "<< return LogDeviceName = %s, LogDeviceLen = %d, index = %d",
+                  TraceToAnsi(name.c_str()), static_cast<std::uint32_t>(name.size()), index);
 }
 
-void TraceEnumEnd(const ExportFrame& frame, Result result)
+void TraceEnumEnd(const ExportFrame& frame, Result result, TracePlace place)
 {
-    NORV_TRACE(frame, TraceExit, "<< lRet=0x%x", static_cast<unsigned>(result));
+    NORV_TRACE_AT(place, frame, TraceExit, "<< lRet=0x%x", static_cast<unsigned>(result));
 }
 
 } // namespace norvepa

@@ -40,8 +40,10 @@ private:
 };
 
 // What each call of the enumeration traces first and, when it has found one, last.
-void TraceEnumEntry(const ExportFrame& frame, const wchar_t* netType, std::uint32_t index);
-void TraceEnumFound(const ExportFrame& frame, const std::wstring& name, std::uint32_t index);
-void TraceEnumEnd(const ExportFrame& frame, Result result);
+void TraceEnumEntry(const ExportFrame& frame, const wchar_t* netType, std::uint32_t index,
+                    TracePlace place = TracePlace::current());
+void TraceEnumFound(const ExportFrame& frame, const std::wstring& name, std::uint32_t index,
+                    TracePlace place = TracePlace::current());
+void TraceEnumEnd(const ExportFrame& frame, Result result, TracePlace place = TracePlace::current());
 
 } // namespace norvepa
