@@ -80,7 +80,12 @@ void cEpaBlXmlParser::ReadAttributes(PullReader& reader, cEpaBlElement& element)
     }
     for (; met; met = reader.MoveToNextAttribute())
     {
-        element.AddAttribute(reader.LocalName(), reader.Value());
+        const auto attribute = reader.CurrentAttribute();
+        if (!attribute)
+        {
+            return; // those ahead of it stay
+        }
+        element.AddAttribute(attribute->name, attribute->value);
     }
 }
 

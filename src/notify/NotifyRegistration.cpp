@@ -3,6 +3,7 @@
 #include "frame/Text.h"
 
 #include <cstdint>
+#include <utility>
 
 namespace norvepa
 {
@@ -23,6 +24,19 @@ template class TextField<64>;
 bool NotifyRegistration::IsFor(std::wstring_view folderName, std::wstring_view fileName) const noexcept
 {
     return FolderName.Matches(folderName) && (FileName.empty() || FileName.Matches(fileName));
+}
+
+void AddRegistration(std::unique_ptr<NotifyRegistration> registration)
+{
+    if (notifyRegisterList)
+    {
+        notifyRegisterList->push_back(std::move(registration));
+        return;
+    }
+    // Filled before it is the list: an empty one must not stay when memory runs out.
+    auto list = std::make_unique<NotifyRegisterList>();
+    list->push_back(std::move(registration));
+    notifyRegisterList = std::move(list);
 }
 
 void RemoveRegistration(const NotifyRegistration* registration)

@@ -54,6 +54,9 @@ using NotifyRegisterList = std::vector<std::unique_ptr<NotifyRegistration>>;
 extern std::mutex notifyRegisterMutex;
 extern std::unique_ptr<NotifyRegisterList> notifyRegisterList; // in the order of registration
 
+// Puts a record behind the others, and makes the list for the first. Under the mutex.
+void AddRegistration(std::unique_ptr<NotifyRegistration> registration);
+
 // Takes a record out of the list and frees it, and the list when that was the last. Under the mutex.
 void RemoveRegistration(const NotifyRegistration* registration);
 

@@ -10,6 +10,13 @@ using namespace norvepa;
 namespace
 {
 
+bool IsRegistered(const wchar_t* eventName)
+{
+    return notifyRegisterList &&
+           std::any_of(notifyRegisterList->begin(), notifyRegisterList->end(),
+                       [&](const auto& each) { return each->EventName.Matches(eventName); });
+}
+
 // Without a file name, that of the record plays no part: a registration for one file is found as well.
 bool IsTheOne(const NotifyRegistration& each, const wchar_t* folderName, const wchar_t* fileName,
               const wchar_t* eventName)
@@ -33,20 +40,14 @@ int32_t RegisterNotification(const wchar_t* FolderName, const wchar_t* FileName,
         const std::lock_guard lock(notifyRegisterMutex);
         auto registration = std::make_unique<NotifyRegistration>(NotifyRegistration{
             TextField<128>(FolderName), TextField<256>(TextOrEmpty(FileName)), TextField<64>(EventName)});
-        if (!notifyRegisterList)
-        {
-            notifyRegisterList = std::make_unique<NotifyRegisterList>();
-        }
-        const bool known = std::any_of(notifyRegisterList->begin(), notifyRegisterList->end(),
-                                       [&](const auto& each) { return each->EventName.Matches(EventName); });
-        if (known)
+        if (IsRegistered(EventName))
         {
             NORV_TRACE(frame, TraceWarning, "Error: duplicate EventName, return");
             return PGSP_ERR_DUPLICATE_EVENT;
         }
 
         NORV_TRACE(frame, TraceWarning, "add Event to notifyRegisterList and return OK");
-        notifyRegisterList->push_back(std::move(registration));
+        AddRegistration(std::move(registration));
         return PGSP_OK;
     });
 }

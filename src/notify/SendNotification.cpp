@@ -31,11 +31,10 @@ struct Change
     win::Library self; // keeps the module loaded until the worker has returned
 };
 
-void DropDeadRegistration(const NotifyRegistration* registration, DWORD error)
+void DropDeadRegistration(const NotifyRegistration* registration, const std::wstring& eventName, DWORD error)
 {
     NORV_TRACE(workerSource, TraceWarning, "OpenEvent: %s nicht m\xF6glich, Error: 0x%x",
-               TraceToAnsi(std::wstring(registration->EventName.view()).c_str()),
-               static_cast<unsigned>(error));
+               TraceToAnsi(eventName.c_str()), static_cast<unsigned>(error));
     NORV_TRACE(workerSource, TraceInfo, "before del len of notifyRegisterList: %d",
                static_cast<int>(notifyRegisterList->size()));
     NORV_TRACE(workerSource, TraceInfo, "free 0x%x", TraceAddress(registration));
@@ -48,15 +47,17 @@ void DropDeadRegistration(const NotifyRegistration* registration, DWORD error)
 // gone.
 void Notify(const NotifyRegistration* registration)
 {
+    // Made ahead of the statements that tell them: one that ran out of memory would keep the mutex of all
+    // processes.
     const std::wstring eventName(registration->EventName.view());
+    const std::wstring fileName(registration->FileName.view());
     const win::Handle event(OpenEventW(EVENT_MODIFY_STATE, TRUE, eventName.c_str()));
     if (!event)
     {
-        DropDeadRegistration(registration, GetLastError());
+        DropDeadRegistration(registration, eventName, GetLastError());
         return;
     }
-    NORV_TRACE(workerSource, TraceInfo, "Notify f\xFCr Datei %s und Event %s",
-               TraceToAnsi(std::wstring(registration->FileName.view()).c_str()),
+    NORV_TRACE(workerSource, TraceInfo, "Notify f\xFCr Datei %s und Event %s", TraceToAnsi(fileName.c_str()),
                TraceToAnsi(eventName.c_str()));
     SetEvent(event.get());
 }

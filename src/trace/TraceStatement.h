@@ -6,7 +6,7 @@
 // test and one compare with the shared settings counter, and evaluates none of its arguments.
 //
 // Callers may rely on: a statement never fails and never changes errno. Callers must not: rely on
-// GetLastError() across a statement, or call TraceFormat and TraceToAnsi outside of one: their buffers
+// GetLastError() across a statement, give it an argument that may throw while the mutex is held, or call TraceFormat and TraceToAnsi outside of one: their buffers
 // are static and belong to whoever holds the trace mutex.
 
 #include <atomic>

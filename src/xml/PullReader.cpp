@@ -88,6 +88,22 @@ std::wstring_view PullReader::Value() const noexcept
                                                                    : std::wstring_view{};
 }
 
+std::optional<PullReader::Attribute> PullReader::CurrentAttribute() noexcept
+{
+    const wchar_t* prefix =
+        nullptr; // asked for as well: an attribute whose prefix is out of order has no name
+    const wchar_t* name = nullptr;
+    const wchar_t* value = nullptr;
+    UINT nameLength = 0;
+    UINT valueLength = 0;
+    if (FAILED(m_reader->GetPrefix(&prefix, nullptr)) || FAILED(m_reader->GetLocalName(&name, &nameLength)) ||
+        FAILED(m_reader->GetValue(&value, &valueLength)))
+    {
+        return std::nullopt;
+    }
+    return Attribute{{name, nameLength}, {value, valueLength}};
+}
+
 bool PullReader::MoveToFirstAttribute() noexcept
 {
     m_lastStatus = m_reader->MoveToFirstAttribute();

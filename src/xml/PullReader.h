@@ -5,7 +5,7 @@
 //
 // Callers may rely on: a reader opens the file for as long as it lives and reads what the file says at
 // that time; a DOCTYPE, a malformed place or a file that was cut off stops it for good. Callers must not:
-// keep a view that LocalName() or Value() lent beyond the next step.
+// keep a view that was lent of a name or a value beyond the next step.
 //
 // The primitives don't count depth: a grandchild is found as readily as a child. Text in CDATA is no text
 // to them, comments and white space are passed over, and an element written as one empty tag ends a
@@ -16,6 +16,7 @@
 #include <wrl/client.h>
 #include <xmllite.h>
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -39,6 +40,14 @@ public:
     [[nodiscard]] bool IsEmptyElement() const noexcept; // asked on the element, not on its attribute
     [[nodiscard]] std::wstring_view LocalName() const noexcept;
     [[nodiscard]] std::wstring_view Value() const noexcept;
+
+    // The attribute that the reader stands on. None when the engine fails to tell any part of it.
+    struct Attribute
+    {
+        std::wstring_view name;
+        std::wstring_view value;
+    };
+    [[nodiscard]] std::optional<Attribute> CurrentAttribute() noexcept;
 
     [[nodiscard]] bool MoveToFirstAttribute() noexcept;
     [[nodiscard]] bool MoveToNextAttribute() noexcept;

@@ -135,6 +135,19 @@ TEST_F(LogNameReadTrace, OfAnEnumerationThatEndsIsTheSameForANameThatDoesNotFit)
                             "entry: >> index = 0", "exit: << return PGSP_ERR_NO_MORE_ITEMS"));
 }
 
+TEST_F(LogNameReadTrace, OfAnEnumerationIntoABufferOfNoCharactersEndsWithoutALookAtTheFolder)
+{
+    Load();
+    length = 0;
+
+    EXPECT_EQ(Enum(0), PGSP_ERR_NO_MORE_ITEMS);
+
+    EXPECT_THAT(LinesOf("LogNameGetEnumBL"),
+                ElementsAre("entry: >> index = 0", "exit: << return PGSP_ERR_NO_MORE_ITEMS"));
+    EXPECT_THAT(LinesOf("NorvXMLEnumFile"), testing::IsEmpty());
+    EXPECT_THAT(LinesOf("getDirectoryContent"), testing::IsEmpty());
+}
+
 TEST_F(LogNameReadTrace, OfAnEnumerationThatIsRefusedSaysWhy)
 {
     TakeDataFolderAway();
@@ -142,6 +155,7 @@ TEST_F(LogNameReadTrace, OfAnEnumerationThatIsRefusedSaysWhy)
 
     EXPECT_EQ(library().LogNameGetEnumBL(7, nullptr, &length), PGSP_ERR_INVALID_PARAMETERS);
     EXPECT_EQ(library().LogNameGetEnumBL(7, buffer, nullptr), PGSP_ERR_INVALID_PARAMETERS);
+    length = 0; // is seen behind the data folder
     EXPECT_EQ(Enum(7), PGSP_ERR_FOLDER_NOT_FOUND);
 
     EXPECT_THAT(LinesOf("LogNameGetEnumBL"),

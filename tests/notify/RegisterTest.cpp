@@ -1,5 +1,7 @@
 #include "NotifyScene.h"
+#include "frame/Result.h"
 #include "notify/NotifyRegistration.h"
+#include "robustness/FailingNew.h"
 
 namespace norvepa::test
 {
@@ -11,6 +13,17 @@ using testing::IsEmpty;
 
 class Register : public NotifyScene
 {
+};
+
+class RegisterOutOfMemory : public NotifyScene, public testing::WithParamInterface<Shortage>
+{
+protected:
+    // How the first registration ends when its nth allocation fails.
+    [[nodiscard]] static std::int32_t RegisterFirst(std::size_t nth)
+    {
+        const FailingNew memory(nth, GetParam());
+        return RegisterNotification(L"LogNames", nullptr, L"event");
+    }
 };
 
 TEST_F(Register, RefusesAMissingFolderOrEvent)
@@ -105,6 +118,21 @@ TEST_F(Register, AndUnloadingFreesThemAll)
     EXPECT_FALSE(HasList());
     EXPECT_THAT(RegisteredEvents(), IsEmpty());
 }
+
+TEST_P(RegisterOutOfMemory, LeavesNoListBehindTheFirst)
+{
+    std::size_t nth = 1;
+    for (; RegisterFirst(nth) == OutOfMemory; ++nth)
+    {
+        EXPECT_FALSE(HasList()) << nth;
+    }
+
+    EXPECT_GT(nth, 1U);
+    EXPECT_THAT(RegisteredEvents(), ElementsAre(L"event"));
+}
+
+INSTANTIATE_TEST_SUITE_P(EachShortage, RegisterOutOfMemory,
+                         testing::Values(Shortage::Passing, Shortage::Lasting));
 
 } // namespace
 } // namespace norvepa::test

@@ -87,6 +87,14 @@ TEST_F(CheckValueType, BoolTakesNothingElse)
     }
 }
 
+TEST_F(CheckValueType, BoolIsComparedByTheUsersLanguageWhichPassesOverASoftHyphen)
+{
+    WriteStufe({{L"type", L"bool"}});
+
+    EXPECT_EQ(Checked(L"Stufe", L"tr\u00ADue"), L"tr\u00ADue");
+    EXPECT_EQ(Checked(L"Stufe", L"FALSE\u00AD"), L"FALSE\u00AD");
+}
+
 // A bool knows neither bounds nor the words that stand for them.
 TEST_F(CheckValueType, BoolComesAheadOfBoundsAndKeywords)
 {

@@ -36,10 +36,10 @@ HANDLE WINAPI Start(SECURITY_ATTRIBUTES* security, SIZE_T stack, LPTHREAD_START_
     return thread;
 }
 
-std::vector<HANDLE> Started()
+HANDLE StartedAt(std::size_t number)
 {
     const std::lock_guard lock(startedMutex);
-    return started;
+    return started.at(number);
 }
 
 } // namespace
@@ -48,7 +48,7 @@ Workers::Workers(HMODULE module) : m_hook("CreateThread", Start, module) {}
 
 Workers::~Workers()
 {
-    for (const HANDLE thread : Started())
+    for (const HANDLE thread : started)
     {
         WaitForSingleObject(thread, Patience);
         CloseHandle(thread);
@@ -58,14 +58,15 @@ Workers::~Workers()
 
 std::size_t Workers::count() const
 {
-    return Started().size();
+    const std::lock_guard lock(startedMutex);
+    return started.size();
 }
 
 void Workers::Await() const
 {
-    for (const HANDLE thread : Started())
+    for (std::size_t number = 0; number < count(); ++number)
     {
-        if (WaitForSingleObject(thread, Patience) != WAIT_OBJECT_0)
+        if (WaitForSingleObject(StartedAt(number), Patience) != WAIT_OBJECT_0)
         {
             throw std::runtime_error("a worker doesn't end");
         }

@@ -30,6 +30,18 @@ TEST(TraceCounter, ThatCannotBeMadeIsToldToTheDebuggerAndTheMaskStillDecides)
     EXPECT_THAT(scene.lines(), ElementsAre("Peer:  line "));
 }
 
+TEST(TraceCounter, ThatIsNeitherMadeNorFoundIsToldWithTheErrorOfItsMaking)
+{
+    TraceScene scene;
+    scene.TraceToFiles(L"8");
+    TracePeer peer(scene.registry());
+    peer.Ask("refuse-mappings");
+
+    peer.Ask("init");
+
+    EXPECT_EQ(peer.Ask("debugger"), "ERROR: Can't create NorvTRC_SECTION, GetLastError()=5 \\n");
+}
+
 TEST(TraceCounter, ThatAnotherProcessMakesMeanwhileIsSharedWithIt)
 {
     TraceScene scene;

@@ -2,6 +2,8 @@
 #include "frame/Text.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 
+#include <windows.h>
+
 #include <cmath>
 #include <cwchar>
 
@@ -51,9 +53,16 @@ std::wstring Replaced(DeviceCatalogue& catalogue, const wchar_t* parameter, cons
     return EqualNoCase(value, L"default") ? ConstraintOrEmpty(catalogue, parameter, L"default") : value;
 }
 
+// The user's language compares here, unlike anywhere else: what it passes over, such as a soft hyphen, doesn't
+// count.
+bool IsWord(const std::wstring& value, const wchar_t* word)
+{
+    return lstrcmpiW(value.c_str(), word) == 0;
+}
+
 Result CheckBool(const ExportFrame& frame, const std::wstring& value)
 {
-    if (!EqualNoCase(value, L"true") && !EqualNoCase(value, L"false"))
+    if (!IsWord(value, L"true") && !IsWord(value, L"false"))
     {
         NORV_TRACE(frame, TraceExit, "<< return PGSP_NOT_A_BOOL");
         return PGSP_NOT_A_BOOL;

@@ -102,6 +102,12 @@ HANDLE WINAPI NoMapping(HANDLE, SECURITY_ATTRIBUTES*, DWORD, DWORD, DWORD, const
     return nullptr;
 }
 
+HANDLE WINAPI NoRightToMap(HANDLE, SECURITY_ATTRIBUTES*, DWORD, DWORD, DWORD, const char*)
+{
+    SetLastError(ERROR_ACCESS_DENIED);
+    return nullptr;
+}
+
 HANDLE WINAPI NoOpenMapping(DWORD, BOOL, const char*)
 {
     SetLastError(ERROR_FILE_NOT_FOUND);
@@ -135,6 +141,14 @@ std::string FailMutex(std::istream&)
 std::string FailMappings(std::istream&)
 {
     static const test::ImportHook creating("CreateFileMappingA", NoMapping);
+    static const test::ImportHook opening("OpenFileMappingA", NoOpenMapping);
+    return "done";
+}
+
+// The counter can't be made for want of rights, and isn't there when it is looked for again either.
+std::string RefuseMappings(std::istream&)
+{
+    static const test::ImportHook creating("CreateFileMappingA", NoRightToMap);
     static const test::ImportHook opening("OpenFileMappingA", NoOpenMapping);
     return "done";
 }
@@ -178,6 +192,7 @@ int main()
         {"mutex", MutexCall},
         {"fail-mutex", FailMutex},
         {"fail-mappings", FailMappings},
+        {"refuse-mappings", RefuseMappings},
         {"lose-counter-race", LoseCounterRace},
         {"debugger", [&](std::istream&) { return Debugger(strings); }},
     };
