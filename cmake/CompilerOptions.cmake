@@ -14,10 +14,25 @@ target_compile_definitions(norv_options INTERFACE UNICODE _UNICODE WIN32_LEAN_AN
 # No run-time library beside the binaries: they go into other makers' processes.
 target_link_options(norv_options INTERFACE -static)
 
+# What is built tells nothing of the folder that it was built in.
+target_compile_options(norv_options INTERFACE -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=)
+
+# A target with this property is linked with its symbols.
 if(CMAKE_BUILD_TYPE STREQUAL "Debug")
   target_compile_definitions(norv_options INTERFACE _GLIBCXX_ASSERTIONS)
 else()
-  target_link_options(norv_options INTERFACE -s)
+  target_link_options(norv_options INTERFACE $<$<NOT:$<BOOL:$<TARGET_PROPERTY:NORV_KEEP_SYMBOLS>>>:-s>)
+endif()
+
+# What goes into other makers' processes and parses their files: canaries in its frames, sizes checked where they
+# are known, and an image that the system may lay out anywhere and doesn't run data of.
+add_library(norv_hardening INTERFACE)
+target_compile_options(norv_hardening INTERFACE -fstack-protector-strong)
+target_link_options(norv_hardening INTERFACE -fstack-protector-strong
+                    -Wl,--dynamicbase,--high-entropy-va,--nxcompat)
+if(NOT CMAKE_BUILD_TYPE STREQUAL "Debug") # needs optimisation
+  target_compile_definitions(norv_hardening INTERFACE _FORTIFY_SOURCE=2)
+  target_link_libraries(norv_hardening INTERFACE ssp)
 endif()
 
 # Debug sections of a sanitised build outgrow the plain object format.

@@ -78,5 +78,19 @@ TEST(LibraryFile, ImportsLibrariesOfTheSystemOnly)
     EXPECT_THAT(modules, AllOf(Not(IsEmpty()), Each(ResultOf(IsOfTheSystem, true))));
 }
 
+TEST(LibraryFile, MayBeLaidOutAnywhereInTheWholeAddressSpace)
+{
+    const PortableExecutable library(LibraryPath());
+
+    EXPECT_TRUE(library.characteristics() & IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE);
+    EXPECT_TRUE(library.characteristics() & IMAGE_DLLCHARACTERISTICS_HIGH_ENTROPY_VA);
+    EXPECT_THAT(library.sectionNames(), Contains(".reloc")); // without which it couldn't be
+}
+
+TEST(LibraryFile, IsNotRunWhereItHoldsData)
+{
+    EXPECT_TRUE(PortableExecutable(LibraryPath()).characteristics() & IMAGE_DLLCHARACTERISTICS_NX_COMPAT);
+}
+
 } // namespace
 } // namespace norvepa::test

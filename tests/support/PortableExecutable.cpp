@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <cstring>
 #include <span>
 #include <stdexcept>
 
@@ -30,6 +31,12 @@ const IMAGE_NT_HEADERS64& HeadersOf(const std::string& bytes)
     return headers;
 }
 
+std::span<const IMAGE_SECTION_HEADER> SectionsOf(const std::string& bytes)
+{
+    const IMAGE_NT_HEADERS64& headers = HeadersOf(bytes);
+    return {IMAGE_FIRST_SECTION(&headers), headers.FileHeader.NumberOfSections};
+}
+
 } // namespace
 
 PortableExecutable::PortableExecutable(const std::wstring& path) : m_bytes(ReadBytes(path))
@@ -42,9 +49,7 @@ PortableExecutable::PortableExecutable(const std::wstring& path) : m_bytes(ReadB
 template <typename Thing>
 const Thing& PortableExecutable::At(std::uint32_t address) const
 {
-    const IMAGE_NT_HEADERS64& headers = HeadersOf(m_bytes);
-    const std::span sections(IMAGE_FIRST_SECTION(&headers), headers.FileHeader.NumberOfSections);
-    for (const IMAGE_SECTION_HEADER& section : sections)
+    for (const IMAGE_SECTION_HEADER& section : SectionsOf(m_bytes))
     {
         if (address >= section.VirtualAddress && address < section.VirtualAddress + section.SizeOfRawData)
         {
@@ -89,6 +94,23 @@ std::vector<std::string> PortableExecutable::importedModules() const
         modules.push_back(TextAt(entry->Name));
     }
     return modules;
+}
+
+std::vector<std::string> PortableExecutable::sectionNames() const
+{
+    std::vector<std::string> names;
+    for (const IMAGE_SECTION_HEADER& section : SectionsOf(m_bytes))
+    {
+        const auto* const name =
+            reinterpret_cast<const char*>(section.Name); // without a terminator when it is full
+        names.emplace_back(name, strnlen(name, IMAGE_SIZEOF_SHORT_NAME));
+    }
+    return names;
+}
+
+std::uint16_t PortableExecutable::characteristics() const
+{
+    return HeadersOf(m_bytes).OptionalHeader.DllCharacteristics;
 }
 
 } // namespace norvepa::test

@@ -18,6 +18,10 @@ public:
     [[nodiscard]] std::vector<std::string> exportedNames() const;   // in the file's order
     [[nodiscard]] std::uint32_t exportedFunctionCount() const;      // with those that have no name
     [[nodiscard]] std::vector<std::string> importedModules() const; // in the file's order
+    [[nodiscard]] std::vector<std::string> sectionNames() const;    // in the file's order
+
+    // What the system may do with it: bits of IMAGE_DLLCHARACTERISTICS.
+    [[nodiscard]] std::uint16_t characteristics() const;
 
 private:
     // The place of an address within the loaded image, in the file. Throws when there is none.

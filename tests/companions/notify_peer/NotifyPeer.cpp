@@ -19,6 +19,8 @@
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <system_error>
+#include <thread>
 #include <vector>
 
 namespace
@@ -69,6 +71,20 @@ std::string Append(const Arguments& paths)
     return "done";
 }
 
+// Others have each file of a storm open for a moment.
+void RemoveWhenNobodyReads(const fs::path& path)
+{
+    std::error_code error;
+    while (!fs::remove(path, error) && error.value() == ERROR_SHARING_VIOLATION)
+    {
+        std::this_thread::yield();
+    }
+    if (error)
+    {
+        throw fs::filesystem_error("cannot remove", path, error);
+    }
+}
+
 // FOLDER, PREFIX, COUNT: so many files made, and every other one removed again.
 std::string Storm(const Arguments& arguments)
 {
@@ -79,7 +95,7 @@ std::string Storm(const Arguments& arguments)
         WriteBytes(path, "");
         if (i % 2 != 0)
         {
-            fs::remove(path);
+            RemoveWhenNobodyReads(path);
         }
     }
     return "done";
