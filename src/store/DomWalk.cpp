@@ -81,6 +81,18 @@ Result ComForOneCall::CreateDocument(const TraceSource& source, Document& docume
     return PGSP_ERR_CANT_CREATE_XML_ENGINE;
 }
 
+Node FirstElement(const Document& document, std::wstring_view name)
+{
+    for (const Node& element : document.Elements())
+    {
+        if (element.IsNamed(name))
+        {
+            return element;
+        }
+    }
+    return {};
+}
+
 Node ValueOfEntry(const Node& entry, std::wstring_view parameter)
 {
     bool matched = false;

@@ -65,23 +65,9 @@ Node Document::Root() const
     return Node(std::move(root));
 }
 
-std::vector<Node> Document::Elements() const
+ElementRange Document::Elements() const
 {
-    std::vector<Node> elements;
-    ComPtr<IXMLDOMElement> root;
-    ComPtr<IXMLDOMNodeList> list;
-    if (FAILED(m_document->get_documentElement(&root)) || !root ||
-        FAILED(root->getElementsByTagName(Bstr(L"*").get(), &list)))
-    {
-        return elements;
-    }
-
-    ComPtr<IXMLDOMNode> element;
-    while (list->nextNode(&element) == S_OK)
-    {
-        elements.emplace_back(std::move(element));
-    }
-    return elements;
+    return ElementRange(Root());
 }
 
 Node Document::CreateElement(std::wstring_view name, std::wstring_view namespaceUri) const

@@ -14,7 +14,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace norvepa
 {
@@ -35,8 +34,8 @@ public:
 
     [[nodiscard]] Node Root() const;
 
-    // All elements below the root, in document order. Taken at the time of the call.
-    [[nodiscard]] std::vector<Node> Elements() const;
+    // All elements below the root, in document order; none when there is no root.
+    [[nodiscard]] ElementRange Elements() const;
 
     // A new element that stands nowhere yet; with an empty `namespaceUri` it has no namespace. Empty for a
     // name that isn't one.

@@ -14,6 +14,16 @@ namespace
 constexpr IID ElementInterface = {
     0x2933bf86, 0x7b36, 0x11d2, {0xb2, 0x0e, 0x00, 0xc0, 0x4f, 0x98, 0x3e, 0x60}};
 
+// The node itself or the next one beside it that is an element; empty when there is none.
+Node ElementFrom(Node node)
+{
+    while (node && !node.IsElement())
+    {
+        node = node.NextSibling();
+    }
+    return node;
+}
+
 } // namespace
 
 Bstr Node::Name() const
@@ -99,8 +109,8 @@ bool Node::SetAttribute(std::wstring_view name, std::wstring_view value) const
 {
     ComPtr<IXMLDOMElement> element;
     const Bstr text(value);
-    return SUCCEEDED(
-               m_node->QueryInterface(ElementInterface, reinterpret_cast<void**>(element.GetAddressOf()))) &&
+    void** const out = reinterpret_cast<void**>(element.GetAddressOf());
+    return SUCCEEDED(m_node->QueryInterface(ElementInterface, out)) &&
            SUCCEEDED(element->setAttribute(Bstr(name).get(), text.asVariant()));
 }
 
@@ -114,6 +124,33 @@ bool Node::Remove(const Node& child) const
 {
     ComPtr<IXMLDOMNode> removed;
     return SUCCEEDED(m_node->removeChild(child.get(), &removed));
+}
+
+ElementRange::Iterator& ElementRange::Iterator::operator++()
+{
+    if (Node child = ElementFrom(m_element.FirstChild()))
+    {
+        m_element = std::move(child);
+        ++m_depth;
+        return *this;
+    }
+    for (; m_element && m_depth > 0; --m_depth)
+    {
+        if (Node sibling = ElementFrom(m_element.NextSibling()))
+        {
+            m_element = std::move(sibling);
+            return *this;
+        }
+        m_element = m_element.Parent();
+    }
+    m_element = Node(); // the root, which the walk has come back to
+    return *this;
+}
+
+ElementRange::Iterator ElementRange::begin() const
+{
+    Iterator first(m_root);
+    return m_root ? ++first : first;
 }
 
 } // namespace norvepa
