@@ -3,6 +3,7 @@
 #include "frame/Text.h"
 #include "store/Kinds.h"
 #include "store/norvxml.h"
+#include "xml/Engine.h"
 
 #include <windows.h>
 #include <objbase.h>
@@ -74,7 +75,7 @@ Result ComForOneCall::CreateDocument(const TraceSource& source, Document& docume
     }
     if (status == CO_E_NOTINITIALIZED)
     {
-        m_ours = SUCCEEDED(CoInitialize(nullptr));
+        m_ours = SUCCEEDED(Checked(CoInitialize(nullptr)));
         return norvepa::CreateDocument(source, document);
     }
     NORV_TRACE(source, TraceInfo, "ERROR : CreateInstance");

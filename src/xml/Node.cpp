@@ -1,6 +1,7 @@
 #include "xml/Node.h"
 
 #include "xml/Characters.h"
+#include "xml/Engine.h"
 
 namespace norvepa
 {
@@ -29,7 +30,7 @@ Node ElementFrom(Node node)
 Bstr Node::Name() const
 {
     Bstr name;
-    m_node->get_nodeName(name.out());
+    Checked(m_node->get_nodeName(name.out()));
     return name;
 }
 
@@ -41,13 +42,13 @@ bool Node::IsNamed(std::wstring_view name) const
 bool Node::IsElement() const
 {
     DOMNodeType type = NODE_INVALID;
-    return SUCCEEDED(m_node->get_nodeType(&type)) && type == NODE_ELEMENT;
+    return SUCCEEDED(Checked(m_node->get_nodeType(&type))) && type == NODE_ELEMENT;
 }
 
 Bstr Node::Text() const
 {
     Bstr text;
-    m_node->get_text(text.out());
+    Checked(m_node->get_text(text.out()));
     return text;
 }
 
@@ -65,7 +66,7 @@ bool Node::SetText(std::wstring_view text) const
             return false;
         }
     }
-    return SUCCEEDED(m_node->put_text(Bstr(text).get()));
+    return SUCCEEDED(Checked(m_node->put_text(Bstr(text).get())));
 }
 
 NodeRange Node::Children() const
@@ -76,21 +77,21 @@ NodeRange Node::Children() const
 Node Node::FirstChild() const
 {
     ComPtr<IXMLDOMNode> child;
-    m_node->get_firstChild(&child);
+    Checked(m_node->get_firstChild(&child));
     return Node(std::move(child));
 }
 
 Node Node::NextSibling() const
 {
     ComPtr<IXMLDOMNode> sibling;
-    m_node->get_nextSibling(&sibling);
+    Checked(m_node->get_nextSibling(&sibling));
     return Node(std::move(sibling));
 }
 
 Node Node::Parent() const
 {
     ComPtr<IXMLDOMNode> parent;
-    m_node->get_parentNode(&parent);
+    Checked(m_node->get_parentNode(&parent));
     return Node(std::move(parent));
 }
 
@@ -98,9 +99,9 @@ Node Node::Attribute(std::wstring_view name) const
 {
     ComPtr<IXMLDOMNamedNodeMap> attributes;
     ComPtr<IXMLDOMNode> attribute;
-    if (SUCCEEDED(m_node->get_attributes(&attributes)) && attributes)
+    if (SUCCEEDED(Checked(m_node->get_attributes(&attributes))) && attributes)
     {
-        attributes->getNamedItem(Bstr(name).get(), &attribute);
+        Checked(attributes->getNamedItem(Bstr(name).get(), &attribute));
     }
     return Node(std::move(attribute));
 }
@@ -110,20 +111,20 @@ bool Node::SetAttribute(std::wstring_view name, std::wstring_view value) const
     ComPtr<IXMLDOMElement> element;
     const Bstr text(value);
     void** const out = reinterpret_cast<void**>(element.GetAddressOf());
-    return SUCCEEDED(m_node->QueryInterface(ElementInterface, out)) &&
-           SUCCEEDED(element->setAttribute(Bstr(name).get(), text.asVariant()));
+    return SUCCEEDED(Checked(m_node->QueryInterface(ElementInterface, out))) &&
+           SUCCEEDED(Checked(element->setAttribute(Bstr(name).get(), text.asVariant())));
 }
 
 bool Node::Append(const Node& child) const
 {
     ComPtr<IXMLDOMNode> appended;
-    return SUCCEEDED(m_node->appendChild(child.get(), &appended));
+    return SUCCEEDED(Checked(m_node->appendChild(child.get(), &appended)));
 }
 
 bool Node::Remove(const Node& child) const
 {
     ComPtr<IXMLDOMNode> removed;
-    return SUCCEEDED(m_node->removeChild(child.get(), &removed));
+    return SUCCEEDED(Checked(m_node->removeChild(child.get(), &removed)));
 }
 
 ElementRange::Iterator& ElementRange::Iterator::operator++()

@@ -3,7 +3,8 @@
 // A node of a document, and the ranges of nodes that walks run over.
 //
 // Callers may rely on: a node keeps its document alive; an empty node converts to false. Names are compared
-// exactly, as the engine holds them. Callers must not: ask an empty node anything.
+// exactly, as the engine holds them. An engine without memory throws std::bad_alloc wherever it is asked
+// something: what is empty or false is so. Callers must not: ask an empty node anything.
 
 #include "xml/Bstr.h"
 
