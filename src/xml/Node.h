@@ -102,7 +102,7 @@ public:
     private:
         Node m_element;
 
-        // Below the root. That a walk is back there is counted: an engine may hand out one node as two objects.
+        // Below the root. A walk is back there by this count: an engine may hand out one node as two objects.
         std::size_t m_depth = 0;
     };
 

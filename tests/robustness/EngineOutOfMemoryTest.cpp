@@ -20,8 +20,8 @@ class EngineOutOfSmallStore : public SmallStore, public testing::WithParamInterf
 {
 protected:
     // Asks again and again, with the DOM engine lacking memory for its first call, then for the second and so
-    // on, until there is none left. Each time the store is as in the beginning, and `look` is called with what
-    // came of it and whether there was a call to fail.
+    // on, until there is none left. Each time the store is as in the beginning, and `look` is called with
+    // what came of it and whether there was a call to fail.
     template <typename Look>
     void AskWithEachCallFailing(const Look& look) const
     {
