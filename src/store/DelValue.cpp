@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <array>
-#include <vector>
 
 namespace norvepa
 {
@@ -94,10 +93,8 @@ Result NorvXMLDelValue(const wchar_t* filePath, const wchar_t* section, const wc
     }
 
     const std::wstring_view sectionName = SectionOrSpare(section);
-    const std::vector<Node> elements = document.Elements();
-    const auto found = std::find_if(elements.begin(), elements.end(),
-                                    [=](const Node& element) { return element.IsNamed(sectionName); });
-    if (found == elements.end() || !RemoveEntry(*found, parameter))
+    const Node found = FirstElement(document, sectionName);
+    if (!found || !RemoveEntry(found, parameter))
     {
         return PGSP_ERR_PARAM_NOT_FOUND;
     }

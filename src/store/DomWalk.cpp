@@ -3,6 +3,7 @@
 #include "frame/Text.h"
 #include "store/Kinds.h"
 #include "store/norvxml.h"
+#include "xml/Engine.h"
 
 #include <windows.h>
 #include <objbase.h>
@@ -74,11 +75,23 @@ Result ComForOneCall::CreateDocument(const TraceSource& source, Document& docume
     }
     if (status == CO_E_NOTINITIALIZED)
     {
-        m_ours = SUCCEEDED(CoInitialize(nullptr));
+        m_ours = SUCCEEDED(Checked(CoInitialize(nullptr)));
         return norvepa::CreateDocument(source, document);
     }
     NORV_TRACE(source, TraceInfo, "ERROR : CreateInstance");
     return PGSP_ERR_CANT_CREATE_XML_ENGINE;
+}
+
+Node FirstElement(const Document& document, std::wstring_view name)
+{
+    for (const Node& element : document.Elements())
+    {
+        if (element.IsNamed(name))
+        {
+            return element;
+        }
+    }
+    return {};
 }
 
 Node ValueOfEntry(const Node& entry, std::wstring_view parameter)

@@ -1,7 +1,7 @@
 #pragma once
 
-// What the store's operations on whole documents have in common: how a file is opened, how an entry is
-// found and made, and what becomes of a thread without COM.
+// What the store's operations on whole documents have in common: how a file is opened, how a section and an
+// entry are found and an entry is made, and what becomes of a thread without COM.
 //
 // In these walks element names are compared exactly, names of parameters and values without regard to case.
 
@@ -41,6 +41,9 @@ private:
 
     bool m_ours = false;
 };
+
+// The first element of this name below the root; empty when there is none.
+[[nodiscard]] Node FirstElement(const Document& document, std::wstring_view name);
 
 // The `Value` of an entry whose `Name`, ahead of it, is the parameter's; empty when it isn't this entry.
 [[nodiscard]] Node ValueOfEntry(const Node& entry, std::wstring_view parameter);

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <vector>
 
 namespace norvepa
 {
@@ -38,10 +37,10 @@ std::wstring_view KindOfSection(std::wstring_view section)
 }
 
 // The entries of other types are passed over, so that writing another type makes a second entry of the name.
-Node FindValue(const std::vector<Node>& elements, std::wstring_view section, std::wstring_view entryElement,
+Node FindValue(const Document& document, std::wstring_view section, std::wstring_view entryElement,
                std::wstring_view parameter)
 {
-    for (const Node& element : elements)
+    for (const Node& element : document.Elements())
     {
         if (!element.IsNamed(section))
         {
@@ -92,17 +91,15 @@ Result NorvXMLSetValue(const wchar_t* filePath, const wchar_t* section, const wc
 
     const std::wstring_view sectionName = SectionOrSpare(section);
     const std::wstring_view entryElement = EntryElementOf(typeWord);
-    const std::vector<Node> elements = document.Elements();
-    if (const Node found = FindValue(elements, sectionName, entryElement, parameter))
+    if (const Node found = FindValue(document, sectionName, entryElement, parameter))
     {
         return ReplaceValue(document, file, found, stored);
     }
 
     NORV_TRACE(source, TraceInfo, "Parameter was not found .. Create it!");
-    const auto parent = std::find_if(elements.begin(), elements.end(),
-                                     [=](const Node& element) { return element.IsNamed(sectionName); });
-    if (parent == elements.end() ||
-        !AppendEntry(document, *parent, entryElement, KindOfSection(sectionName), parameter, stored))
+    const Node parent = FirstElement(document, sectionName);
+    if (!parent ||
+        !AppendEntry(document, parent, entryElement, KindOfSection(sectionName), parameter, stored))
     {
         NORV_TRACE(source, TraceInfo, "<< return Error: PGSP_ERR_CANT_SET_VALUE");
         return PGSP_ERR_CANT_SET_VALUE;

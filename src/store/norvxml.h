@@ -8,7 +8,8 @@
 // store escapes it and appends ".xml". An output is untouched when an argument is refused or the file
 // can't be opened, empty when the value isn't found, unless told otherwise. Every operation answers
 // PGSP_ERR_INVALID_PARAMETERS for a path that is null or empty or an output that is null, and
-// PGSP_ERR_BUFFER_TOO_SHORT for an escaped path of 260 characters or more.
+// PGSP_ERR_BUFFER_TOO_SHORT for an escaped path of 260 characters or more. Memory that runs out, ours or the
+// engine's, is std::bad_alloc.
 
 #include "frame/Result.h"
 
@@ -28,7 +29,7 @@ namespace norvepa
 
 // A new file of a kind: "nam", "driv", "notif" or "pgsp". PGSP_ERR_FILE_EXISTS leaves a file that is there
 // alone; PGSP_ERR_CANT_CREATE_XML_ENGINE, and PGSP_ERR_CANT_CREATE_FILE when the file could be opened but not
-// saved, leave an empty file behind.
+// saved, leave an empty file behind; memory that runs out leaves none.
 [[nodiscard]] Result NorvXMLCreateFile(const wchar_t* filePath, const wchar_t* fileKind);
 
 // PGSP_ERR_CANT_DELETE_FILE for whatever reason.
@@ -98,7 +99,8 @@ namespace norvepa
 // Writing parameter values: the document loaded as a whole, one entry changed, the whole saved ---------
 //
 // Element names match exactly here, names of parameters and values without regard to case. PGSP_OK when the
-// file was changed, whether or not it could be saved; PGSP_ERR_SAME_VALUE when nothing had to be done.
+// file was changed, whether or not it could be saved, unless memory ran out in that; PGSP_ERR_SAME_VALUE when
+// nothing had to be done.
 // PGSP_ERR_FILE_NOT_FOUND, PGSP_ERR_CANT_LOAD_XML_FILE (too large or malformed) and
 // PGSP_ERR_CANT_CREATE_XML_ENGINE leave the file as it is. A value that is malformed for its type, or a name
 // with a forbidden character, is PGSP_ERR_INVALID_PARAMETERS. What XML can't hold at all, such as a control

@@ -1,6 +1,7 @@
 #include "xml/Document.h"
 
 #include "xml/Characters.h"
+#include "xml/Engine.h"
 
 #include <objbase.h>
 
@@ -28,60 +29,65 @@ VARIANT ElementType() noexcept
 
 } // namespace
 
-HRESULT Document::Create() noexcept
+HRESULT Document::Create()
 {
     m_document.Reset();
-    const HRESULT status = CoCreateInstance(DocumentClass, nullptr, CLSCTX_INPROC_SERVER, DocumentInterface,
-                                            reinterpret_cast<void**>(m_document.ReleaseAndGetAddressOf()));
+    void** const out = reinterpret_cast<void**>(m_document.GetAddressOf());
+    const HRESULT status =
+        Checked(CoCreateInstance(DocumentClass, nullptr, CLSCTX_INPROC_SERVER, DocumentInterface, out));
     if (SUCCEEDED(status))
     {
-        m_document->put_async(VARIANT_FALSE);
+        Checked(m_document->put_async(VARIANT_FALSE));
     }
     return status;
 }
 
-void Document::LoadAsItStands() noexcept
+void Document::LoadAsItStands()
 {
-    m_document->put_validateOnParse(VARIANT_FALSE);
-    m_document->put_resolveExternals(VARIANT_FALSE);
-    m_document->put_preserveWhiteSpace(VARIANT_TRUE);
+    Checked(m_document->put_validateOnParse(VARIANT_FALSE));
+    Checked(m_document->put_resolveExternals(VARIANT_FALSE));
+    Checked(m_document->put_preserveWhiteSpace(VARIANT_TRUE));
 }
 
 bool Document::Load(const std::wstring& file)
 {
     VARIANT_BOOL loaded = VARIANT_FALSE;
-    return SUCCEEDED(m_document->load(Bstr(file).asVariant(), &loaded)) && loaded == VARIANT_TRUE;
+    const HRESULT status = Checked(m_document->load(Bstr(file).asVariant(), &loaded));
+    if (SUCCEEDED(status) && loaded == VARIANT_TRUE)
+    {
+        return true;
+    }
+    CheckParseError();
+    return false;
+}
+
+// A load that fails need not answer why: what memory it lacked stands in its error.
+void Document::CheckParseError() const
+{
+    ComPtr<IXMLDOMParseError> error;
+    long code = S_OK;
+    if (SUCCEEDED(Checked(m_document->get_parseError(&error))) && error)
+    {
+        Checked(error->get_errorCode(&code));
+    }
+    Checked(code);
 }
 
 bool Document::Save(const std::wstring& file) const
 {
-    return SUCCEEDED(m_document->save(Bstr(file).asVariant()));
+    return SUCCEEDED(Checked(m_document->save(Bstr(file).asVariant())));
 }
 
 Node Document::Root() const
 {
     ComPtr<IXMLDOMElement> root;
-    m_document->get_documentElement(&root);
+    Checked(m_document->get_documentElement(&root));
     return Node(std::move(root));
 }
 
-std::vector<Node> Document::Elements() const
+ElementRange Document::Elements() const
 {
-    std::vector<Node> elements;
-    ComPtr<IXMLDOMElement> root;
-    ComPtr<IXMLDOMNodeList> list;
-    if (FAILED(m_document->get_documentElement(&root)) || !root ||
-        FAILED(root->getElementsByTagName(Bstr(L"*").get(), &list)))
-    {
-        return elements;
-    }
-
-    ComPtr<IXMLDOMNode> element;
-    while (list->nextNode(&element) == S_OK)
-    {
-        elements.emplace_back(std::move(element));
-    }
-    return elements;
+    return ElementRange(Root());
 }
 
 Node Document::CreateElement(std::wstring_view name, std::wstring_view namespaceUri) const
@@ -91,28 +97,28 @@ Node Document::CreateElement(std::wstring_view name, std::wstring_view namespace
     {
         return {};
     }
-    m_document->createNode(ElementType(), Bstr(name).get(), Bstr(namespaceUri).get(), &element);
+    Checked(m_document->createNode(ElementType(), Bstr(name).get(), Bstr(namespaceUri).get(), &element));
     return Node(std::move(element));
 }
 
 Node Document::CreateComment(std::wstring_view text) const
 {
     ComPtr<IXMLDOMComment> comment;
-    m_document->createComment(Bstr(text).get(), &comment);
+    Checked(m_document->createComment(Bstr(text).get(), &comment));
     return Node(std::move(comment));
 }
 
 Node Document::CreateInstruction(std::wstring_view target, std::wstring_view text) const
 {
     ComPtr<IXMLDOMProcessingInstruction> instruction;
-    m_document->createProcessingInstruction(Bstr(target).get(), Bstr(text).get(), &instruction);
+    Checked(m_document->createProcessingInstruction(Bstr(target).get(), Bstr(text).get(), &instruction));
     return Node(std::move(instruction));
 }
 
 bool Document::Append(const Node& child) const
 {
     ComPtr<IXMLDOMNode> appended;
-    return SUCCEEDED(m_document->appendChild(child.get(), &appended));
+    return SUCCEEDED(Checked(m_document->appendChild(child.get(), &appended)));
 }
 
 } // namespace norvepa

@@ -3,7 +3,8 @@
 // A document of the DOM engine: created empty, or loaded as a whole, walked, changed and saved.
 //
 // Callers may rely on: nothing is loaded asynchronously, and no DTD or schema location is followed to other
-// files. What the document doesn't change it saves: comments, processing instructions, other namespaces.
+// files. What the document doesn't change it saves: comments, processing instructions, other namespaces. An
+// engine without memory throws std::bad_alloc, whatever it is asked for: its own object, a load, a save.
 // Callers must: have COM on their thread, and create the document before anything else is asked of it.
 
 #include "frame/Result.h"
@@ -14,7 +15,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace norvepa
 {
@@ -23,11 +23,11 @@ class Document
 {
 public:
     // S_OK, or why there is no engine: CO_E_NOTINITIALIZED on a thread without COM.
-    [[nodiscard]] HRESULT Create() noexcept;
+    [[nodiscard]] HRESULT Create();
 
     // Accepts whatever is well-formed, follows nothing and keeps all white space: what a schema and a
     // document to be validated need ahead of their load.
-    void LoadAsItStands() noexcept;
+    void LoadAsItStands();
 
     // True when the engine has read all of the file and found it well-formed.
     [[nodiscard]] bool Load(const std::wstring& file);
@@ -35,8 +35,8 @@ public:
 
     [[nodiscard]] Node Root() const;
 
-    // All elements below the root, in document order. Taken at the time of the call.
-    [[nodiscard]] std::vector<Node> Elements() const;
+    // All elements below the root, in document order; none when there is no root.
+    [[nodiscard]] ElementRange Elements() const;
 
     // A new element that stands nowhere yet; with an empty `namespaceUri` it has no namespace. Empty for a
     // name that isn't one.
@@ -49,6 +49,8 @@ public:
     [[nodiscard]] IXMLDOMDocument2* get() const noexcept { return m_document.Get(); }
 
 private:
+    void CheckParseError() const;
+
     Microsoft::WRL::ComPtr<IXMLDOMDocument2> m_document;
 };
 

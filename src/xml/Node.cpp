@@ -1,6 +1,7 @@
 #include "xml/Node.h"
 
 #include "xml/Characters.h"
+#include "xml/Engine.h"
 
 namespace norvepa
 {
@@ -14,12 +15,22 @@ namespace
 constexpr IID ElementInterface = {
     0x2933bf86, 0x7b36, 0x11d2, {0xb2, 0x0e, 0x00, 0xc0, 0x4f, 0x98, 0x3e, 0x60}};
 
+// The node itself or the next one beside it that is an element; empty when there is none.
+Node ElementFrom(Node node)
+{
+    while (node && !node.IsElement())
+    {
+        node = node.NextSibling();
+    }
+    return node;
+}
+
 } // namespace
 
 Bstr Node::Name() const
 {
     Bstr name;
-    m_node->get_nodeName(name.out());
+    Checked(m_node->get_nodeName(name.out()));
     return name;
 }
 
@@ -31,13 +42,13 @@ bool Node::IsNamed(std::wstring_view name) const
 bool Node::IsElement() const
 {
     DOMNodeType type = NODE_INVALID;
-    return SUCCEEDED(m_node->get_nodeType(&type)) && type == NODE_ELEMENT;
+    return SUCCEEDED(Checked(m_node->get_nodeType(&type))) && type == NODE_ELEMENT;
 }
 
 Bstr Node::Text() const
 {
     Bstr text;
-    m_node->get_text(text.out());
+    Checked(m_node->get_text(text.out()));
     return text;
 }
 
@@ -55,7 +66,7 @@ bool Node::SetText(std::wstring_view text) const
             return false;
         }
     }
-    return SUCCEEDED(m_node->put_text(Bstr(text).get()));
+    return SUCCEEDED(Checked(m_node->put_text(Bstr(text).get())));
 }
 
 NodeRange Node::Children() const
@@ -66,21 +77,21 @@ NodeRange Node::Children() const
 Node Node::FirstChild() const
 {
     ComPtr<IXMLDOMNode> child;
-    m_node->get_firstChild(&child);
+    Checked(m_node->get_firstChild(&child));
     return Node(std::move(child));
 }
 
 Node Node::NextSibling() const
 {
     ComPtr<IXMLDOMNode> sibling;
-    m_node->get_nextSibling(&sibling);
+    Checked(m_node->get_nextSibling(&sibling));
     return Node(std::move(sibling));
 }
 
 Node Node::Parent() const
 {
     ComPtr<IXMLDOMNode> parent;
-    m_node->get_parentNode(&parent);
+    Checked(m_node->get_parentNode(&parent));
     return Node(std::move(parent));
 }
 
@@ -88,9 +99,9 @@ Node Node::Attribute(std::wstring_view name) const
 {
     ComPtr<IXMLDOMNamedNodeMap> attributes;
     ComPtr<IXMLDOMNode> attribute;
-    if (SUCCEEDED(m_node->get_attributes(&attributes)) && attributes)
+    if (SUCCEEDED(Checked(m_node->get_attributes(&attributes))) && attributes)
     {
-        attributes->getNamedItem(Bstr(name).get(), &attribute);
+        Checked(attributes->getNamedItem(Bstr(name).get(), &attribute));
     }
     return Node(std::move(attribute));
 }
@@ -99,21 +110,48 @@ bool Node::SetAttribute(std::wstring_view name, std::wstring_view value) const
 {
     ComPtr<IXMLDOMElement> element;
     const Bstr text(value);
-    return SUCCEEDED(
-               m_node->QueryInterface(ElementInterface, reinterpret_cast<void**>(element.GetAddressOf()))) &&
-           SUCCEEDED(element->setAttribute(Bstr(name).get(), text.asVariant()));
+    void** const out = reinterpret_cast<void**>(element.GetAddressOf());
+    return SUCCEEDED(Checked(m_node->QueryInterface(ElementInterface, out))) &&
+           SUCCEEDED(Checked(element->setAttribute(Bstr(name).get(), text.asVariant())));
 }
 
 bool Node::Append(const Node& child) const
 {
     ComPtr<IXMLDOMNode> appended;
-    return SUCCEEDED(m_node->appendChild(child.get(), &appended));
+    return SUCCEEDED(Checked(m_node->appendChild(child.get(), &appended)));
 }
 
 bool Node::Remove(const Node& child) const
 {
     ComPtr<IXMLDOMNode> removed;
-    return SUCCEEDED(m_node->removeChild(child.get(), &removed));
+    return SUCCEEDED(Checked(m_node->removeChild(child.get(), &removed)));
+}
+
+ElementRange::Iterator& ElementRange::Iterator::operator++()
+{
+    if (Node child = ElementFrom(m_element.FirstChild()))
+    {
+        m_element = std::move(child);
+        ++m_depth;
+        return *this;
+    }
+    for (; m_element && m_depth > 0; --m_depth)
+    {
+        if (Node sibling = ElementFrom(m_element.NextSibling()))
+        {
+            m_element = std::move(sibling);
+            return *this;
+        }
+        m_element = m_element.Parent();
+    }
+    m_element = Node(); // the root, which the walk has come back to
+    return *this;
+}
+
+ElementRange::Iterator ElementRange::begin() const
+{
+    Iterator first(m_root);
+    return m_root ? ++first : first;
 }
 
 } // namespace norvepa

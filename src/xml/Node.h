@@ -3,13 +3,16 @@
 // A node of a document, and the ranges of nodes that walks run over.
 //
 // Callers may rely on: a node keeps its document alive; an empty node converts to false. Names are compared
-// exactly, as the engine holds them. Callers must not: ask an empty node anything.
+// exactly, as the engine holds them. An engine without memory throws std::bad_alloc wherever it is asked
+// something: what is empty or false is so. Callers must not: ask an empty node anything.
 
 #include "xml/Bstr.h"
 
 #include <msxml2.h>
 #include <wrl/client.h>
 
+#include <cstddef>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -80,6 +83,35 @@ public:
 
 private:
     Node m_first;
+};
+
+// All elements below a root, in document order, for a range-based for: one at a time, however many there are
+// and however deep they lie. The element that a walk stands on, and those around it, must stay in place until
+// the walk has gone on or is left.
+class ElementRange
+{
+public:
+    class Iterator
+    {
+    public:
+        explicit Iterator(Node root) noexcept : m_element(std::move(root)) {}
+        const Node& operator*() const noexcept { return m_element; }
+        Iterator& operator++();
+        bool operator==(std::default_sentinel_t) const noexcept { return !m_element; }
+
+    private:
+        Node m_element;
+
+        // Below the root. A walk is back there by this count: an engine may hand out one node as two objects.
+        std::size_t m_depth = 0;
+    };
+
+    explicit ElementRange(Node root) noexcept : m_root(std::move(root)) {} // which may be empty
+    [[nodiscard]] Iterator begin() const;
+    [[nodiscard]] std::default_sentinel_t end() const noexcept { return {}; }
+
+private:
+    Node m_root;
 };
 
 } // namespace norvepa

@@ -1,5 +1,7 @@
 #include "xml/SchemaCollection.h"
 
+#include "xml/Engine.h"
+
 #include <objbase.h>
 
 namespace norvepa
@@ -26,23 +28,24 @@ VARIANT AsVariant(IDispatch* object) noexcept
 
 } // namespace
 
-HRESULT SchemaCollection::Create() noexcept
+HRESULT SchemaCollection::Create()
 {
     m_collection.Reset();
-    return CoCreateInstance(CollectionClass, nullptr, CLSCTX_INPROC_SERVER, CollectionInterface,
-                            reinterpret_cast<void**>(m_collection.ReleaseAndGetAddressOf()));
+    void** const out = reinterpret_cast<void**>(m_collection.GetAddressOf());
+    return Checked(
+        CoCreateInstance(CollectionClass, nullptr, CLSCTX_INPROC_SERVER, CollectionInterface, out));
 }
 
 void SchemaCollection::Add(std::wstring_view namespaceUri, const Document& schema) const
 {
-    m_collection->add(Bstr(namespaceUri).get(), AsVariant(schema.get()));
+    Checked(m_collection->add(Bstr(namespaceUri).get(), AsVariant(schema.get())));
 }
 
 ValidationOutcome SchemaCollection::Validate(const Document& document) const
 {
     ComPtr<IXMLDOMParseError> error;
-    document.get()->putref_schemas(AsVariant(m_collection.Get()));
-    document.get()->validate(&error);
+    Checked(document.get()->putref_schemas(AsVariant(m_collection.Get())));
+    Checked(document.get()->validate(&error));
     if (!error)
     {
         return {};
@@ -50,8 +53,9 @@ ValidationOutcome SchemaCollection::Validate(const Document& document) const
 
     long code = 0;
     Bstr reason;
-    error->get_errorCode(&code);
-    error->get_reason(reason.out());
+    Checked(error->get_errorCode(&code));
+    Checked(code); // a validation without memory ends with it as its error
+    Checked(error->get_reason(reason.out()));
     return {code == 0, std::wstring(reason.view())};
 }
 

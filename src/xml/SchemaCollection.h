@@ -4,7 +4,7 @@
 //
 // Callers may rely on: only the schemas added here decide; a location named inside of a document plays no
 // part. A schema that doesn't declare the namespace it is added under leaves the collection without it, and
-// a document of that namespace is then not valid.
+// a document of that namespace is then not valid. An engine without memory throws std::bad_alloc.
 
 #include "xml/Document.h"
 
@@ -26,7 +26,7 @@ struct ValidationOutcome
 class SchemaCollection
 {
 public:
-    [[nodiscard]] HRESULT Create() noexcept;
+    [[nodiscard]] HRESULT Create();
     void Add(std::wstring_view namespaceUri, const Document& schema) const;
     [[nodiscard]] ValidationOutcome Validate(const Document& document) const;
 

@@ -58,7 +58,9 @@ private:
     BYTE* m_base;
 };
 
-void Store(void** slot, void* function)
+} // namespace
+
+void StoreFunction(void** slot, void* function)
 {
     DWORD protection = 0;
     VirtualProtect(slot, sizeof *slot, PAGE_READWRITE, &protection);
@@ -66,17 +68,15 @@ void Store(void** slot, void* function)
     VirtualProtect(slot, sizeof *slot, protection, &protection);
 }
 
-} // namespace
-
 ImportHook::ImportHook(const char* function, void* replacement, HMODULE module)
     : m_slot(Image(module).FindSlot(function)), m_original(*m_slot)
 {
-    Store(m_slot, replacement);
+    StoreFunction(m_slot, replacement);
 }
 
 ImportHook::~ImportHook()
 {
-    Store(m_slot, m_original);
+    StoreFunction(m_slot, m_original);
 }
 
 } // namespace norvepa::test

@@ -9,6 +9,9 @@
 namespace norvepa::test
 {
 
+// Puts a function in the place of another, in memory that is otherwise only read.
+void StoreFunction(void** slot, void* function);
+
 class ImportHook
 {
 public:

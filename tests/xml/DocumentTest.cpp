@@ -1,3 +1,4 @@
+#include "support/WatchedEngine.h"
 #include "support/XmlMeaning.h"
 #include "xml/DocumentScene.h"
 
@@ -8,12 +9,12 @@ namespace
 
 using DocumentTest = DocumentScene;
 
-std::string Names(const std::vector<Node>& nodes)
+std::string Names(const ElementRange& elements)
 {
     std::string names;
-    for (const Node& node : nodes)
+    for (const Node& element : elements)
     {
-        names += ToUtf8(node.Name().view()) + " ";
+        names += ToUtf8(element.Name().view()) + " ";
     }
     return names;
 }
@@ -23,7 +24,7 @@ TEST_F(DocumentTest, AnEmptyDocumentHasNoRootAndNoElements)
     const Document document = Empty();
 
     EXPECT_FALSE(document.Root());
-    EXPECT_TRUE(document.Elements().empty());
+    EXPECT_EQ(Names(document.Elements()), "");
 }
 
 TEST_F(DocumentTest, TheElementsAreAllBelowTheRootInDocumentOrder)
@@ -40,11 +41,65 @@ TEST_F(DocumentTest, ElementsKeepTheirPrefixes)
     EXPECT_EQ(Names(document.Elements()), "o:a ");
 }
 
-TEST_F(DocumentTest, ElementsOutliveTheDocument)
+TEST_F(DocumentTest, WhatStandsBesideTheRootIsNoneOfTheElements)
 {
-    std::vector<Node> elements = Loaded("<r><a>1</a></r>").Elements();
+    const Document document = Loaded("<?p?><!--c--><r>text<!--c--></r><!--d--><?q?>");
 
-    EXPECT_EQ(elements.at(0).Text().view(), L"1");
+    EXPECT_EQ(Names(document.Elements()), "");
+}
+
+TEST_F(DocumentTest, ElementsAreWalkedAnewEachTime)
+{
+    const Document document = Loaded("<r><a/><b><c/></b></r>");
+    const ElementRange elements = document.Elements();
+
+    EXPECT_EQ(Names(elements), "a b c ");
+    EXPECT_EQ(Names(elements), "a b c ");
+}
+
+TEST_F(DocumentTest, AWalkComesBackFromAnyDepth)
+{
+    constexpr int depth = 200;
+    std::string bytes = "<end/>";
+    std::string names = "end ";
+    for (int i = 0; i < depth; ++i)
+    {
+        bytes.insert(0, "<down>").append("</down><up/>");
+        names.insert(0, "down ").append("up ");
+    }
+    const Document document = Loaded("<r>" + bytes + "</r>");
+
+    EXPECT_EQ(Names(document.Elements()), names);
+}
+
+TEST_F(DocumentTest, AWalkHoldsAFewObjectsHoweverManyElementsThereAre)
+{
+    constexpr int pairs = 100'000;
+    std::string bytes = "<r>";
+    for (int i = 0; i < pairs; ++i)
+    {
+        bytes += "<o" + std::to_string(i) + "><i/></o" + std::to_string(i) + ">";
+    }
+    const WatchedEngine engine;
+    const Document document = Loaded(bytes + "</r>");
+
+    int walked = 0;
+    for (const Node& element : document.Elements())
+    {
+        const bool isOuter = walked % 2 == 0;
+        ASSERT_EQ(element.Name().view(), isOuter ? L"o" + std::to_wstring(walked / 2) : L"i");
+        ++walked;
+    }
+
+    EXPECT_EQ(walked, 2 * pairs);
+    EXPECT_LE(engine.mostObjectsHeld(), 10U);
+}
+
+TEST_F(DocumentTest, AWalkOutlivesTheDocument)
+{
+    const ElementRange elements = Loaded("<r><a>1</a></r>").Elements();
+
+    EXPECT_EQ((*elements.begin()).Text().view(), L"1");
 }
 
 TEST_F(DocumentTest, ADocumentIsBuiltFromItsParts)
