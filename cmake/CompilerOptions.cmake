@@ -28,11 +28,9 @@ endif()
 # are known, and an image that the system may lay out anywhere and doesn't run data of.
 add_library(norv_hardening INTERFACE)
 target_compile_options(norv_hardening INTERFACE -fstack-protector-strong)
-target_link_options(norv_hardening INTERFACE -fstack-protector-strong
-                    -Wl,--dynamicbase,--high-entropy-va,--nxcompat)
+target_link_options(norv_hardening INTERFACE -Wl,--dynamicbase,--high-entropy-va,--nxcompat)
 if(NOT CMAKE_BUILD_TYPE STREQUAL "Debug") # needs optimisation
   target_compile_definitions(norv_hardening INTERFACE _FORTIFY_SOURCE=2)
-  target_link_libraries(norv_hardening INTERFACE ssp)
 endif()
 
 # Debug sections of a sanitised build outgrow the plain object format.
