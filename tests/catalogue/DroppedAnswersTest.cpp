@@ -19,7 +19,7 @@ protected:
         static_cast<void>(File(
             XmlFile(L"Profile", {},
                     XmlContent()
-                        .Element(L"Install", XmlContent().Text(L"a", L"1"))
+                        .Element(L"Install", XmlContent().Text(L"a", L"1").Text(L"b", L"2"))
                         .Element(L"Constraints",
                                  XmlContent().ParamSection(
                                      L"p", XmlContent().Element(L"min", L"1").ValueCollection({L"1"}))))));
@@ -74,8 +74,8 @@ TEST_F(DroppedAnswers, AreFreedByTheFirstQuestionToAllValues)
 {
     const std::weak_ptr<const Answer> dropped = Dropped();
 
-    EXPECT_EQ(PairOf([&](const PairBuffers& pair) { return NorvXMLEnumValue(m_file.c_str(), 0, pair); }),
-              Found(L"a", L"1"));
+    EXPECT_EQ(PairOf([&](const PairBuffers& pair) { return NorvXMLEnumValue(m_file.c_str(), 1, pair); }),
+              Found(L"b", L"2"));
 
     EXPECT_TRUE(dropped.expired());
 }
