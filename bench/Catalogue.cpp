@@ -1,14 +1,17 @@
-// What the catalogue costs: a question by index from a warm cache, and parsing beside a bare pass of the same
-// engine over the same file.
+// What the catalogue costs: a question by index from a warm cache, asked by one thread and by two at once,
+// and parsing beside a bare pass of the same engine over the same file.
 
 #include "BareEngines.h"
 #include "PlantStore.h"
 #include "Stopwatch.h"
 #include "Table.h"
+#include "Throughput.h"
 #include "catalogue/norvxmlCatalogue.h"
+#include "frame/Text.h"
 #include "meta/cMetaFiles.h"
 #include "support/TemporaryFolder.h"
 
+#include <array>
 #include <cstdio>
 #include <stdexcept>
 
@@ -29,9 +32,8 @@ void Require(bool isRight)
     }
 }
 
-void AskCollection(const std::wstring& file)
+void AskCollection(const std::wstring& file, std::wstring& item)
 {
-    std::wstring item;
     Require(NorvXMLEnumValueCollectionRaw(file.c_str(), key.c_str(), 3, &item) == PGSP_OK &&
             item == L"100/schnell");
 }
@@ -46,11 +48,37 @@ void AskSection(const std::wstring& file)
                                          {name, &nameLength, value, &valueLength}) == PGSP_OK);
 }
 
-void AskConstraint(const std::wstring& file)
+void AskConstraint(const std::wstring& file, std::wstring& value)
 {
-    std::wstring value;
     Require(NorvXMLGetConstraint(file.c_str(), parameter.c_str(), L"max", &value) == PGSP_OK &&
             value == L"1000000");
+}
+
+// As much of a thread's own work as a question, or about that: what the machine gives a second thread that
+// shares nothing with the first.
+void CompareOwnTexts()
+{
+    const std::array<wchar_t, 100> left{};
+    const std::array<wchar_t, 100> right{};
+    Require(EqualNoCase({left.data(), left.size()}, {right.data(), right.size()}));
+}
+
+template <typename Body>
+void TellThroughput(const char* what, const Body& body)
+{
+    const Throughput best = BestThroughput(body);
+    std::printf("%-62s %11.0f %14.0f %8.2f\n", what, best.ofOne, best.ofTwo, best.Ratio());
+    std::fflush(stdout);
+}
+
+void TellWhatASecondThreadIsWorth(const std::wstring& file)
+{
+    std::printf("\n%-62s %11s %14s %8s\n", "answers a second of a warm cache, goal: 1.80 times as many",
+                "one thread", "two threads", "ratio");
+    TellThroughput("item of a value list", [&](std::wstring& item) { AskCollection(file, item); });
+    TellThroughput("item of a section", [&](std::wstring&) { AskSection(file); });
+    TellThroughput("constraint from the memo", [&](std::wstring& value) { AskConstraint(file, value); });
+    TellThroughput("nothing of the catalogue's, nothing shared", [](std::wstring&) { CompareOwnTexts(); });
 }
 
 void Parse(const std::wstring& file)
@@ -67,12 +95,20 @@ int main()
     const std::wstring file = store.protocolPath();
 
     const double pass = MedianNanoseconds([&] { Require(CountNodesWithXmlLite(file) > 0); });
-    const double collection = MedianNanoseconds([&] { AskCollection(file); });
+    const double collection = MedianNanoseconds([&] {
+        std::wstring item;
+        AskCollection(file, item);
+    });
     const Table questions("questions to a warm cache", "to a list item", collection);
     questions.Row("item of a value list", collection);
     questions.Row("item of a section", MedianNanoseconds([&] { AskSection(file); }));
-    questions.Row("constraint from the memo", MedianNanoseconds([&] { AskConstraint(file); }));
+    questions.Row("constraint from the memo", MedianNanoseconds([&] {
+                      std::wstring value;
+                      AskConstraint(file, value);
+                  }));
     questions.Row("bare pass of XmlLite over the file", pass);
+
+    TellWhatASecondThreadIsWorth(file);
 
     const double parse = MedianNanoseconds([&] { Parse(file); });
     const double bytes = static_cast<double>(test::ReadBytes(file).size());

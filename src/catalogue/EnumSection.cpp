@@ -2,11 +2,10 @@
 #include "catalogue/Collections.h"
 #include "catalogue/norvxmlCatalogue.h"
 #include "frame/FileNames.h"
-#include "frame/StoreLocations.h"
+#include "frame/PathText.h"
 #include "meta/cEpaBlCache.h"
 #include "meta/cMetaFiles.h"
 #include "store/BufferForms.h"
-#include "store/PullWalk.h"
 #include "trace/TraceStatement.h"
 
 namespace norvepa
@@ -15,29 +14,38 @@ namespace norvepa
 namespace
 {
 
-// An answer from the cache, or worked out by `collect` and stored. PGSP_ERR_CANT_LOAD_XML_FILE, or
-// PGSP_ERR_PARAM_NOT_FOUND for an empty one, which isn't stored.
+// What `collect` finds in a file's tree. PGSP_ERR_CANT_LOAD_XML_FILE, or PGSP_ERR_PARAM_NOT_FOUND when that
+// is nothing.
 template <typename Collect>
-Result FindOrCollect(const std::wstring& file, std::wstring_view key, AnswerKind kind, const Collect& collect,
-                     std::shared_ptr<const Answer>& answer)
+Result CollectFromFile(std::wstring_view file, const Collect& collect, Answer& answer)
 {
-    answer = MetaCacheFind(file, key, kind);
-    if (answer != nullptr)
-    {
-        return PGSP_OK;
-    }
     const MetaDocument document = MetaGetDocument(file);
     if (document == nullptr)
     {
         return PGSP_ERR_CANT_LOAD_XML_FILE;
     }
-    answer = std::make_shared<const Answer>(collect(*document));
-    if (answer->empty())
+    answer = collect(*document);
+    return answer.empty() ? PGSP_ERR_PARAM_NOT_FOUND : PGSP_OK;
+}
+
+// What `use` says to an answer from the cache, or to one that was collected and stored; the result of
+// CollectFromFile when there is none.
+template <typename Collect, typename Use>
+Result UseAnswer(std::wstring_view file, std::wstring_view key, AnswerKind kind, const Collect& collect,
+                 const Use& use)
+{
+    if (const auto known = MetaCacheFind(file, key, kind))
     {
-        return PGSP_ERR_PARAM_NOT_FOUND;
+        return use(*known);
     }
-    MetaCacheStore(file, key, kind, answer);
-    return PGSP_OK;
+    Answer answer;
+    if (const Result result = CollectFromFile(file, collect, answer); result != PGSP_OK)
+    {
+        return result;
+    }
+    const auto shared = std::make_shared<const Answer>(std::move(answer));
+    MetaCacheStore(file, key, kind, shared);
+    return use(*shared);
 }
 
 Answer CollectionAt(const cEpaBlElement& root, std::wstring_view key)
@@ -56,15 +64,15 @@ Result EnumValueCollection(const wchar_t* filePath, const wchar_t* key, std::uin
 
     // Escaped here and once more where the document is opened: a name with one of the coded characters other
     // than "#" isn't found by this query.
-    std::wstring file;
-    if (const Result result = StoreFile(filePath, file); result != PGSP_OK)
+    PathText file;
+    if (const Result result = EscapePath(filePath, file); result != PGSP_OK)
     {
         return result;
     }
-    std::shared_ptr<const Answer> answer;
+    ExtendByAnywhereRule(file);
     const auto collect = [&](const cEpaBlElement& root) { return CollectionAt(root, key); };
-    const Result result = FindOrCollect(file, key, AnswerKind::ValueCollection, collect, answer);
-    return result == PGSP_OK ? ItemOf(*answer, index, *item) : result;
+    return UseAnswer(file.view(), key, AnswerKind::ValueCollection, collect,
+                     [&](const Answer& answer) { return ItemOf(answer, index, *item); });
 }
 
 Result EnumSectionEntries(const wchar_t* filePath, const wchar_t* parameter, std::uint32_t index,
@@ -75,19 +83,12 @@ Result EnumSectionEntries(const wchar_t* filePath, const wchar_t* parameter, std
         return PGSP_ERR_INVALID_PARAMETERS;
     }
 
-    std::shared_ptr<const Answer> answer;
+    PathText file(filePath);
+    ExtendByAnywhereRule(file);
     const auto collect = [&](const cEpaBlElement& root) { return GetSectionEntries(root, parameter); };
-    const Result result =
-        FindOrCollect(CatalogueFile(filePath), parameter, AnswerKind::Section, collect, answer);
-    if (result != PGSP_OK)
-    {
-        return result;
-    }
-    if (index >= answer->size())
-    {
-        return PGSP_ERR_NO_MORE_ITEMS;
-    }
-    return CopyEntry((*answer)[index], pair);
+    return UseAnswer(file.view(), parameter, AnswerKind::Section, collect, [&](const Answer& answer) {
+        return index < answer.size() ? CopyEntry(answer[index], pair) : PGSP_ERR_NO_MORE_ITEMS;
+    });
 }
 
 // The (`Param`, `default`) of a section below the root's first `Constraints`.

@@ -1,5 +1,5 @@
-#include "catalogue/CatalogueWalk.h"
 #include "catalogue/norvxmlCatalogue.h"
+#include "frame/PathText.h"
 #include "meta/cEpaBlCache.h"
 #include "meta/cMetaFiles.h"
 #include "store/BufferForms.h"
@@ -45,7 +45,7 @@ void AddEntries(const cEpaBlElement& section, std::vector<Pair>& pairs)
     }
 }
 
-// All of a file: the entries of the sections, then the root's attributes.
+// All of a tree: the entries of the sections, then the root's attributes.
 std::vector<Pair> ListPairs(const cEpaBlElement& root)
 {
     std::vector<Pair> pairs;
@@ -63,7 +63,18 @@ std::vector<Pair> ListPairs(const cEpaBlElement& root)
     return pairs;
 }
 
-void StorePairs(const std::wstring& file, const std::vector<Pair>& pairs)
+Result ReadPairs(std::wstring_view file, std::vector<Pair>& pairs)
+{
+    const MetaDocument document = MetaGetDocument(file);
+    if (document == nullptr)
+    {
+        return PGSP_ERR_FILE_NOT_FOUND;
+    }
+    pairs = ListPairs(*document);
+    return PGSP_OK;
+}
+
+void StorePairs(std::wstring_view file, const std::vector<Pair>& pairs)
 {
     if (pairs.empty())
     {
@@ -87,29 +98,32 @@ Result NorvXMLEnumValue(const wchar_t* filePath, std::uint32_t index, const Pair
         return PGSP_ERR_INVALID_PARAMETERS;
     }
 
-    const std::wstring file = CatalogueFile(filePath);
+    PathText path(filePath);
+    ExtendByAnywhereRule(path);
+    const std::wstring_view file = path.view();
     if (index == 0)
     {
         MetaCacheDropFile(file);
     }
-    if (const auto known = MetaCacheFind(file, {}, AnswerKind::WholeFile))
+    if (auto known = MetaCacheFind(file, {}, AnswerKind::WholeFile))
     {
         if (index < known->size())
         {
             return CopyEntry((*known)[index], pair);
         }
-        // Who has walked to the end has seen the file as it was; the next walk reads it anew.
+        // Who has walked to the end has seen the file as it was; the next walk reads it anew. What is dropped
+        // goes at once, unless it is borrowed here.
+        known = nullptr;
         MetaCacheDropFile(file);
         MetaDropDocument(file);
         return PGSP_ERR_NO_MORE_ITEMS;
     }
 
-    const MetaDocument document = MetaGetDocument(file);
-    if (document == nullptr)
+    std::vector<Pair> pairs;
+    if (const Result result = ReadPairs(file, pairs); result != PGSP_OK)
     {
-        return PGSP_ERR_FILE_NOT_FOUND;
+        return result;
     }
-    const std::vector<Pair> pairs = ListPairs(*document);
     StorePairs(file, pairs);
     if (index >= pairs.size())
     {

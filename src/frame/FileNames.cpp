@@ -1,6 +1,7 @@
 #include "frame/FileNames.h"
 
 #include "frame/Arguments.h"
+#include "frame/PathText.h"
 #include "frame/StoreLocations.h"
 
 #include <algorithm>
@@ -32,20 +33,26 @@ constexpr std::array<EscapeRow, 9> EscapeTable{{
     {L'/', L"#2f"},
 }};
 
-void AppendEscaped(std::wstring& text, std::wstring_view name)
+auto RowOf(wchar_t character) noexcept
 {
-    for (const wchar_t character : name)
+    return std::find_if(EscapeTable.begin(), EscapeTable.end(),
+                        [=](const EscapeRow& each) { return each.character == character; });
+}
+
+void AppendEscaped(PathText& text, std::wstring_view name)
+{
+    for (;;)
     {
-        const auto row = std::find_if(EscapeTable.begin(), EscapeTable.end(),
-                                      [=](const EscapeRow& each) { return each.character == character; });
-        if (row == EscapeTable.end())
+        const auto coded = std::find_if(name.begin(), name.end(), [](wchar_t character) {
+            return RowOf(character) != EscapeTable.end();
+        });
+        text.Append({name.begin(), coded});
+        if (coded == name.end())
         {
-            text += character;
+            return;
         }
-        else
-        {
-            text += row->code;
-        }
+        text.Append(RowOf(*coded)->code);
+        name = {coded + 1, name.end()};
     }
 }
 
@@ -89,9 +96,10 @@ Result NorvXMLEscapeName(const wchar_t* path, wchar_t* buffer, std::uint32_t* le
     }
 
     const std::wstring_view whole(path);
-    std::wstring escaped(FolderOf(whole));
-    AppendEscaped(escaped, whole.substr(escaped.size()));
-    return CopyOut(escaped, buffer, length);
+    const std::wstring_view folder = FolderOf(whole);
+    PathText escaped(folder);
+    AppendEscaped(escaped, whole.substr(folder.size()));
+    return CopyOut(escaped.view(), buffer, length);
 }
 
 Result NorvXMLEscapeBareName(const wchar_t* name, wchar_t* buffer, std::uint32_t* length)
@@ -101,9 +109,9 @@ Result NorvXMLEscapeBareName(const wchar_t* name, wchar_t* buffer, std::uint32_t
         return PGSP_ERR_INVALID_PARAMETERS;
     }
 
-    std::wstring escaped;
+    PathText escaped;
     AppendEscaped(escaped, name);
-    return CopyOutAtMostPath(escaped, buffer, length);
+    return CopyOutAtMostPath(escaped.view(), buffer, length);
 }
 
 Result NorvXMLUnescapeName(const wchar_t* path, wchar_t* buffer, std::uint32_t* length)
@@ -121,12 +129,23 @@ Result NorvXMLUnescapeName(const wchar_t* path, wchar_t* buffer, std::uint32_t* 
 
 Result EscapePath(const wchar_t* path, std::wstring& escaped)
 {
+    PathText text;
+    const Result result = EscapePath(path, text);
+    if (result == PGSP_OK)
+    {
+        escaped = text.view();
+    }
+    return result;
+}
+
+Result EscapePath(const wchar_t* path, PathText& escaped)
+{
     std::array<wchar_t, PathCapacity> buffer;
     std::uint32_t length = PathCapacity;
     const Result result = NorvXMLEscapeName(path, buffer.data(), &length);
     if (result == PGSP_OK)
     {
-        escaped.assign(buffer.data(), length);
+        escaped.Append({buffer.data(), length});
     }
     return result;
 }

@@ -15,6 +15,8 @@
 namespace norvepa
 {
 
+class PathText;
+
 // The three operations on a caller's buffer, `length` in and out in characters by the output rule.
 // PGSP_ERR_INVALID_PARAMETERS when the text is null or empty, the buffer or the length is null, or the
 // length is 0. The first and the last work on what follows the last backslash, the second on the whole.
@@ -25,7 +27,8 @@ namespace norvepa
 [[nodiscard]] Result NorvXMLUnescapeName(const wchar_t* path, wchar_t* buffer, std::uint32_t* length);
 
 // NorvXMLEscapeName as every store operation begins with it, for paths of less than PathCapacity
-// characters. `escaped` is untouched unless the result is PGSP_OK.
+// characters. `escaped` is untouched unless the result is PGSP_OK; a PathText is empty before that.
 [[nodiscard]] Result EscapePath(const wchar_t* path, std::wstring& escaped);
+[[nodiscard]] Result EscapePath(const wchar_t* path, PathText& escaped);
 
 } // namespace norvepa

@@ -1,5 +1,6 @@
 #include "frame/StoreLocations.h"
 
+#include "frame/PathText.h"
 #include "win/RegistryKey.h"
 
 #include <windows.h>
@@ -93,6 +94,14 @@ void ExtendByAnywhereRule(std::wstring& path)
     if (path.find(Extension) == std::wstring::npos)
     {
         path += Extension;
+    }
+}
+
+void ExtendByAnywhereRule(PathText& path)
+{
+    if (path.view().find(Extension) == std::wstring_view::npos)
+    {
+        path.Append(Extension);
     }
 }
 

@@ -12,6 +12,8 @@
 namespace norvepa
 {
 
+class PathText;
+
 // A path is held with its terminator in this many characters; what is longer is refused.
 inline constexpr std::size_t PathCapacity = 260;
 
@@ -27,6 +29,7 @@ inline constexpr std::size_t PathCapacity = 260;
 
 // Appends ".xml" unless the path holds it anywhere, folders included. Exact case.
 void ExtendByAnywhereRule(std::wstring& path);
+void ExtendByAnywhereRule(PathText& path);
 
 // Appends ".xml" unless the first one in the path is its end. Exact case.
 void ExtendByEndRule(std::wstring& path);

@@ -1,6 +1,5 @@
 #include "meta/cEpaBlCache.h"
 
-#include "meta/Published.h"
 #include "meta/Vocabulary.h"
 
 #include <algorithm>
@@ -45,10 +44,9 @@ void Replace(CacheList& list, cEpaBlCache&& cache)
 
 } // namespace
 
-std::shared_ptr<const Answer> MetaCacheFind(std::wstring_view filePath, std::wstring_view key,
-                                            AnswerKind kind)
+Borrowed<const Answer> MetaCacheFind(std::wstring_view filePath, std::wstring_view key, AnswerKind kind)
 {
-    const auto list = cacheList.Get();
+    auto list = cacheList.Get();
     const auto file = FindFile(*list, filePath);
     if (file == list->end())
     {
@@ -63,7 +61,7 @@ std::shared_ptr<const Answer> MetaCacheFind(std::wstring_view filePath, std::wst
     {
         if (EqualWords(data.key, key))
         {
-            return data.values;
+            return std::move(list).Along(data.values.get());
         }
     }
     return nullptr;

@@ -1,10 +1,10 @@
 #include "meta/cMetaFiles.h"
 
 #include "frame/FileNames.h"
-#include "frame/StoreLocations.h"
-#include "meta/Published.h"
+#include "frame/PathText.h"
 
 #include <algorithm>
+#include <memory>
 #include <vector>
 
 namespace norvepa
@@ -18,15 +18,17 @@ using DocumentList = std::vector<Link>;
 
 Published<DocumentList> documentList;
 
-auto FindLink(const DocumentList& list, const std::wstring& filePath)
+auto FindLink(const DocumentList& list, std::wstring_view filePath)
 {
     return std::find_if(list.begin(), list.end(),
                         [&](const Link& link) { return EqualWords(link->filePath(), filePath); });
 }
 
-MetaDocument RootOf(const Link& link)
+// Null when the list doesn't hold the file.
+MetaDocument RootOf(Borrowed<const DocumentList> list, std::wstring_view filePath)
 {
-    return {link, link->root()};
+    const auto known = FindLink(*list, filePath);
+    return known == list->end() ? nullptr : std::move(list).Along((*known)->root());
 }
 
 // Null when there is nothing to keep.
@@ -42,40 +44,40 @@ Link ParseFile(const std::wstring& filePath)
     return tree.document == nullptr ? nullptr : std::make_shared<const cMetaFiles>(filePath, std::move(tree));
 }
 
-// The link of this file that the list ends up with: another thread may have been faster.
-Link Keep(Link parsed)
+// The document of this file that the list ends up with: another thread may have been faster.
+MetaDocument Keep(const Link& parsed)
 {
-    documentList.Update([&](DocumentList& list) {
-        if (const auto known = FindLink(list, parsed->filePath()); known != list.end())
+    auto list = documentList.UpdateAndGet([&](DocumentList& changed) {
+        if (FindLink(changed, parsed->filePath()) != changed.end())
         {
-            parsed = *known;
             return false;
         }
-        list.push_back(parsed);
+        changed.push_back(parsed);
         return true;
     });
-    return parsed;
+    return RootOf(std::move(list), parsed->filePath());
 }
 
 } // namespace
 
-MetaDocument MetaGetDocument(std::wstring filePath)
+MetaDocument MetaGetDocument(std::wstring_view filePath)
 {
-    ExtendByAnywhereRule(filePath);
-    const auto list = documentList.Get();
-    if (const auto known = FindLink(*list, filePath); known != list->end())
+    PathText file(filePath);
+    ExtendByAnywhereRule(file);
+    if (MetaDocument known = RootOf(documentList.Get(), file.view()))
     {
-        return RootOf(*known);
+        return known;
     }
-    Link parsed = ParseFile(filePath);
-    return parsed == nullptr ? nullptr : RootOf(Keep(std::move(parsed)));
+    const Link parsed = ParseFile(std::wstring(file.view()));
+    return parsed == nullptr ? nullptr : Keep(parsed);
 }
 
-Result MetaDropDocument(std::wstring filePath)
+Result MetaDropDocument(std::wstring_view filePath)
 {
-    ExtendByAnywhereRule(filePath);
+    PathText file(filePath);
+    ExtendByAnywhereRule(file);
     documentList.Update([&](DocumentList& list) {
-        const auto known = FindLink(list, filePath);
+        const auto known = FindLink(list, file.view());
         if (known == list.end())
         {
             return false;

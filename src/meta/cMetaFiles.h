@@ -8,10 +8,11 @@
 // until the document was dropped.
 
 #include "frame/Result.h"
+#include "meta/Published.h"
 #include "meta/cEpaBlXmlParser.h"
 
-#include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace norvepa
@@ -36,16 +37,16 @@ private:
     ParsedTree m_tree;
 };
 
-// A document's root, and the share in the tree that keeps it.
-using MetaDocument = std::shared_ptr<const cEpaBlElement>;
+// A document's root, borrowed with its tree.
+using MetaDocument = Borrowed<const cEpaBlElement>;
 
 // The document of a file, parsed at the first call. ".xml" is added by the anywhere rule, and the name on
 // disk is the escaped one. Null when the file can't be opened or holds nothing that is known, of which
 // nothing is remembered.
-[[nodiscard]] MetaDocument MetaGetDocument(std::wstring filePath);
+[[nodiscard]] MetaDocument MetaGetDocument(std::wstring_view filePath);
 
 // Forgets a document, if there is one. Always PGSP_OK.
-Result MetaDropDocument(std::wstring filePath);
+Result MetaDropDocument(std::wstring_view filePath);
 
 void MetaDropAllDocuments() noexcept;
 

@@ -20,7 +20,7 @@ protected:
         return std::make_shared<const Answer>(Answer{text});
     }
 
-    [[nodiscard]] std::shared_ptr<const Answer> Find(std::wstring_view key, AnswerKind kind) const
+    [[nodiscard]] Borrowed<const Answer> Find(std::wstring_view key, AnswerKind kind) const
     {
         return MetaCacheFind(file, key, kind);
     }
@@ -48,7 +48,7 @@ TEST_F(AnswerCache, FindsWhatWasStored)
 
     EXPECT_EQ(MetaCacheStore(file, L"Constraints\\baudrate", ValueCollection, answer), PGSP_OK);
 
-    EXPECT_EQ(Find(L"Constraints\\baudrate", ValueCollection), answer);
+    EXPECT_EQ(Find(L"Constraints\\baudrate", ValueCollection).get(), answer.get());
 }
 
 TEST_F(AnswerCache, KeepsTheThreeKindsApart)

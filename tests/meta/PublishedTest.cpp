@@ -3,9 +3,11 @@
 #include "support/AllAtOnce.h"
 
 #include <atomic>
+#include <chrono>
 #include <gmock/gmock.h>
 #include <stdexcept>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace norvepa
@@ -21,6 +23,38 @@ using Numbers = std::vector<int>;
 
 constexpr int Threads = 8;
 constexpr int Updates = 200; // of each thread
+
+// A number that is counted while it lives, and spoilt when it goes.
+struct Tracked
+{
+    static constexpr int Spoilt = -1;
+    static inline std::atomic<int> alive = 0;
+
+    Tracked() noexcept { ++alive; }
+    Tracked(const Tracked& other) noexcept : number(other.number.load()) { ++alive; }
+    Tracked& operator=(const Tracked&) = delete;
+    ~Tracked()
+    {
+        number = Spoilt;
+        --alive;
+    }
+
+    std::atomic<int> number = 0;
+};
+
+bool CountOn(Tracked& thing)
+{
+    ++thing.number;
+    return true;
+}
+
+void CountOn(Published<Tracked>& things, int times)
+{
+    for (int i = 0; i < times; ++i)
+    {
+        things.Update([](Tracked& thing) { return CountOn(thing); });
+    }
+}
 
 TEST(Published, IsEmptyAndNotNullInTheBeginning)
 {
@@ -163,6 +197,175 @@ TEST(Published, LendsNothingHalfMadeToRacingReaders)
 
     EXPECT_EQ(halfMade, 0);
     EXPECT_THAT(numbers.Get(), Pointee(testing::SizeIs(Updates)));
+}
+
+TEST(Published, LendsWhatAnUpdateMadeOrDeclinedToChange)
+{
+    Published<Numbers> numbers;
+    const auto addTheFirst = [](Numbers& list) {
+        list.push_back(1);
+        return list.size() == 1;
+    };
+
+    const auto made = numbers.UpdateAndGet(addTheFirst);
+    const auto declined = numbers.UpdateAndGet(addTheFirst);
+    numbers.Clear();
+
+    EXPECT_EQ(made, declined);
+    EXPECT_THAT(made, Pointee(ElementsAre(1)));
+}
+
+TEST(Published, FreesWhatIsReplacedWhenNobodyReadsIt)
+{
+    Published<Tracked> things;
+
+    CountOn(things, Updates);
+    EXPECT_EQ(Tracked::alive, 2); // that of the beginning and the last one
+    things.Clear();
+
+    EXPECT_EQ(Tracked::alive, 1);
+}
+
+TEST(Published, LeavesWhatIsBorrowedThroughAllUpdatesAndFreesItWithTheNext)
+{
+    Published<Tracked> things;
+    CountOn(things, 1);
+    {
+        const auto borrowed = things.Get();
+
+        CountOn(things, Updates);
+        things.Clear();
+        CountOn(things, Updates);
+
+        EXPECT_EQ(borrowed->number, 1);
+    }
+    EXPECT_GT(Tracked::alive, 2);
+    CountOn(things, 1);
+
+    EXPECT_EQ(Tracked::alive, 2);
+}
+
+TEST(Published, FreesWhatWasBorrowedWithTheNextClearing)
+{
+    Published<Tracked> things;
+    CountOn(things, 1);
+    {
+        const auto borrowed = things.Get();
+        CountOn(things, 1);
+    }
+
+    things.Clear();
+
+    EXPECT_EQ(Tracked::alive, 1);
+}
+
+TEST(Published, FreesWhatALendingUpdateReplacedWithTheNext)
+{
+    Published<Tracked> things;
+
+    for (int i = 0; i < Updates; ++i)
+    {
+        const auto lent = things.UpdateAndGet([](Tracked& thing) { return CountOn(thing); });
+    }
+
+    EXPECT_EQ(Tracked::alive, 3); // of the beginning, the last one, and that one's predecessor
+}
+
+TEST(Published, LeavesAPartOfWhatIsBorrowedReadable)
+{
+    Published<Tracked> things;
+    CountOn(things, 1);
+    auto whole = things.Get();
+    const std::atomic<int>* const number = &whole->number;
+
+    const Borrowed<const std::atomic<int>> part = std::move(whole).Along(number);
+    CountOn(things, Updates);
+
+    ASSERT_EQ(part.get(), number);
+    EXPECT_EQ(*part, 1);
+}
+
+TEST(Published, TakesBackOnAnyThreadWhatItLentOnAnother)
+{
+    Published<Tracked> things;
+    Borrowed<const Tracked> borrowed;
+    std::thread([&] {
+        CountOn(things, 1);
+        borrowed = things.Get();
+    }).join();
+    CountOn(things, Updates);
+    ASSERT_EQ(borrowed->number, 1);
+
+    std::thread([taken = std::move(borrowed)] { EXPECT_EQ(taken->number, 1); }).join();
+    CountOn(things, 1);
+
+    EXPECT_EQ(Tracked::alive, 2);
+}
+
+TEST(Published, WaitsForNoReaderWhenItGoes)
+{
+    Borrowed<const Tracked> borrowed;
+    {
+        Published<Tracked> things;
+        borrowed = things.Get();
+        CountOn(things, Updates);
+    }
+
+    EXPECT_EQ(Tracked::alive, 0);
+}
+
+TEST(Published, LendsNothingThatWasFreedToRacingReaders)
+{
+    constexpr std::chrono::seconds Duration{1};
+    Published<Tracked> things;
+    std::atomic<int> wrong = 0;
+    std::atomic<int> reads = 0;
+    const auto end = std::chrono::steady_clock::now() + Duration;
+    const auto isOver = [=] { return std::chrono::steady_clock::now() >= end; };
+    const auto read = [&] {
+        for (int last = 0; !isOver(); ++reads)
+        {
+            const auto lent = things.Get();
+            const int number = lent->number;
+            std::this_thread::yield();
+            wrong += number < last || lent->number != number;
+            last = number;
+        }
+    };
+    const auto write = [&] {
+        while (!isOver())
+        {
+            CountOn(things, 1);
+        }
+    };
+
+    test::AllAtOnce(Threads, [&](int thread) { thread % 2 == 0 ? write() : read(); });
+
+    EXPECT_EQ(wrong, 0);
+    EXPECT_GT(reads, Updates);
+    EXPECT_GT(things.Get()->number, Updates);
+    CountOn(things, 1);
+    EXPECT_EQ(Tracked::alive, 2);
+}
+
+TEST(Published, FreesEachVersionOnceInARaceOfUpdatesAndClearings)
+{
+    Published<Tracked> things;
+    std::atomic<int> wrong = 0;
+
+    test::AllAtOnce(Threads, [&](int thread) {
+        for (int i = 0; i < Updates; ++i)
+        {
+            const auto lent = things.Get();
+            const int number = lent->number;
+            thread % 4 == 0 ? things.Clear() : CountOn(things, 1);
+            wrong += lent->number != number;
+        }
+    });
+    things.Clear();
+
+    EXPECT_EQ(wrong, 0);
+    EXPECT_EQ(Tracked::alive, 1);
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 
 #include <array>
 #include <atomic>
+#include <functional>
 #include <vector>
 
 namespace norvepa::test
@@ -142,7 +143,7 @@ TEST_F(RacingQueries, FindOneDocumentAtTheFirstLoad)
         });
 
         ASSERT_NE(documents.front(), nullptr);
-        ASSERT_THAT(documents, testing::Each(documents.front()));
+        ASSERT_THAT(documents, testing::Each(testing::Eq(std::cref(documents.front()))));
     }
 }
 
