@@ -32,7 +32,7 @@ std::wstring IniFile(const PlantStore& store)
     {
         text += test::ToUtf8(ParameterName(number)) + "=" + std::to_string(number) + "\r\n";
     }
-    const std::wstring file = store.folder() + L"\\device.ini";
+    std::wstring file = store.folder() + L"\\device.ini";
     test::WriteBytes(file, text);
     return file;
 }

@@ -1,5 +1,7 @@
+# shellcheck shell=bash
 # The main job from end to end, on the sample store. Called by ./norv demo, which sets root, bin and store.
 set -euo pipefail
+: "${bin:?}" "${store:?}"
 
 say() { printf '\n\033[1m%s\033[0m\n' "$*"; }
 run() {
@@ -10,7 +12,12 @@ run() {
     esac
 }
 # For a call that is meant to be refused: its failure is part of the show.
-refused() { run "$@" && { echo 'was not refused' >&2 && exit 1; } || true; }
+refused() {
+    if run "$@"; then
+        echo 'was not refused' >&2
+        exit 1
+    fi
+}
 
 # A watch in the background, of which show_changes tells what it has printed.
 watch_changes() { # FOLDER COUNT

@@ -25,18 +25,22 @@ struct Word
     Meaning meaning;
 };
 
-constexpr std::array formatWords{
-    Word{"SHORT", LineFormat::Short},
-    Word{"TIME", LineFormat::Time},
-    Word{"TEXT", LineFormat::Text},
-};
+constexpr std::array<Word<LineFormat>, 3> formatWords{{
+    {"SHORT", LineFormat::Short},
+    {"TIME", LineFormat::Time},
+    {"TEXT", LineFormat::Text},
+}};
 
-constexpr std::array outputWords{
-    Word{"VXD", TraceOutput::Driver},   Word{"COM1", TraceOutput::Com1},
-    Word{"COM2", TraceOutput::Com2},    Word{"PIPE", TraceOutput::Pipe},
-    Word{"FILE", TraceOutput::File},    Word{"SM", TraceOutput::SharedMemory},
-    Word{"DBG", TraceOutput::Debugger}, Word{"NorvTRACEENGINE", TraceOutput::Engine},
-};
+constexpr std::array<Word<TraceOutput>, 8> outputWords{{
+    {"VXD", TraceOutput::Driver},
+    {"COM1", TraceOutput::Com1},
+    {"COM2", TraceOutput::Com2},
+    {"PIPE", TraceOutput::Pipe},
+    {"FILE", TraceOutput::File},
+    {"SM", TraceOutput::SharedMemory},
+    {"DBG", TraceOutput::Debugger},
+    {"NorvTRACEENGINE", TraceOutput::Engine},
+}};
 
 template <typename Words, typename Meaning>
 Meaning MeaningOf(const Words& words, std::string_view text, Meaning otherwise) noexcept

@@ -21,6 +21,7 @@ public:
     constexpr Lasting() noexcept = default;
     Lasting(const Lasting&) = delete;
     Lasting& operator=(const Lasting&) = delete;
+    ~Lasting() = default;
 
     // Null until something has been published.
     [[nodiscard]] Thing* Get() noexcept
@@ -51,6 +52,9 @@ private:
     // A union's member is neither made nor destroyed unless someone says so.
     union Room {
         constexpr Room() noexcept : none() {}
+        Room(const Room&) = delete;
+        Room& operator=(const Room&) = delete;
+        // NOLINTNEXTLINE(modernize-use-equals-default) which would be deleted: the thing's may do something
         ~Room() {}
 
         char none;

@@ -120,6 +120,7 @@ std::vector<NameAndValue> EnumeratePairs(const std::string& subject, const ReadP
 std::string AsLines(const std::vector<NameAndValue>& pairs)
 {
     std::vector<std::string> lines;
+    lines.reserve(pairs.size());
     for (const NameAndValue& pair : pairs)
     {
         lines.push_back(fmt::format("{:<28} {}", pair.name, pair.value));

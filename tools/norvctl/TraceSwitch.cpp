@@ -31,7 +31,11 @@ constexpr std::array<const char*, 11> ValueNames{"Level",    "Format",    "Outpu
 
 struct CloseView
 {
-    void operator()(volatile LONG* view) const { UnmapViewOfFile(const_cast<LONG*>(view)); }
+    void operator()(volatile LONG* view) const
+    {
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast) unmapping takes no volatile
+        UnmapViewOfFile(const_cast<LONG*>(view));
+    }
 };
 using CounterView = std::unique_ptr<volatile LONG, CloseView>;
 

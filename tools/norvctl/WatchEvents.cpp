@@ -45,6 +45,7 @@ bool IsWaitedFor(const std::wstring& eventName)
 std::vector<std::wstring> WatchEventNames(const std::wstring& folder, const std::wstring& file)
 {
     std::vector<std::wstring> names;
+    names.reserve(WatchesAtOnce);
     for (int i = 0; i < WatchesAtOnce; ++i)
     {
         names.push_back(

@@ -10,7 +10,7 @@
 #include <CLI/CLI.hpp>
 #include <exception>
 
-int main()
+int main() // NOLINT(bugprone-exception-escape) what CLI11 throws ahead of the parse is a slip of ours
 {
     SetConsoleOutputCP(CP_UTF8);
 
