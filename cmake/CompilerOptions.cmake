@@ -24,11 +24,12 @@ else()
   target_link_options(norv_options INTERFACE $<$<NOT:$<BOOL:$<TARGET_PROPERTY:NORV_KEEP_SYMBOLS>>>:-s>)
 endif()
 
-# What goes into other makers' processes and parses their files: canaries in its frames, sizes checked where they
-# are known, and an image that the system may lay out anywhere and doesn't run data of.
+# What goes into other makers' processes and parses their files: canaries in its frames, sizes checked where
+# they are known, and an image that the system may lay out anywhere and doesn't run data of.
 add_library(norv_hardening INTERFACE)
 target_compile_options(norv_hardening INTERFACE -fstack-protector-strong)
 target_link_options(norv_hardening INTERFACE -Wl,--dynamicbase,--high-entropy-va,--nxcompat)
+target_link_libraries(norv_hardening INTERFACE ssp)
 if(NOT CMAKE_BUILD_TYPE STREQUAL "Debug") # needs optimisation
   target_compile_definitions(norv_hardening INTERFACE _FORTIFY_SOURCE=2)
 endif()
@@ -37,6 +38,9 @@ endif()
 target_compile_options(norv_options INTERFACE -Wa,-mbig-obj)
 
 if(NORV_TRAP_UNDEFINED)
+  # Names of functions and lines, which is what a trap is looked up by: with all the rest, linking takes longer than
+  # the tests.
+  target_compile_options(norv_options INTERFACE -g1)
   # The trap needs no run-time library, which MinGW-w64 doesn't have; vptr checks would need one.
   target_compile_options(norv_options INTERFACE -fsanitize=undefined -fsanitize-undefined-trap-on-error -fno-sanitize=vptr)
 endif()

@@ -473,7 +473,7 @@ int32_t LogDeviceDelValueBL(const wchar_t* LogDevice, const wchar_t* Parameter);
  *   valLen     in/out  its length in characters
  *
  * PGSP_OK                      all four are set
- * PGSP_ERR_INVALID_PARAMETERS  Board is null or empty, an output is null, or a length is 0 without a section
+ * PGSP_ERR_INVALID_PARAMETERS  Board is null or empty, an output is null, or, without a section, a length 0
  * PGSP_ERR_BUFFER_TOO_SHORT    a buffer is too small and its length now tells; the name goes first, so a
  *                              name that doesn't fit leaves Value and valLen as they were
  * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one. Without a section the file is read anew then
@@ -748,7 +748,7 @@ int32_t PGSP_GetLogNameListBL(wchar_t* LogNames, uint32_t* dwLogNames);
  *   dwLogDevices  in/out  its length in characters; out, the characters written with all terminators
  *
  * Results as PGSP_GetLogDeviceListBL, but that an empty list is
- * PGSP_ERR_NO_MORE_ITEMS       no log device is meant; the buffer is two terminators, and dwLogDevices 1
+ * PGSP_ERR_NO_MORE_ITEMS       no log device is meant; two terminators, and dwLogDevices is 1
  * and EntryName and EntryValue must not be null or empty either.
  */
 int32_t PGSP_GetLogDeviceListExBL(const wchar_t* EntryName, const wchar_t* EntryValue, uint32_t mode,

@@ -27,7 +27,7 @@ class PathText;
 [[nodiscard]] Result NorvXMLUnescapeName(const wchar_t* path, wchar_t* buffer, std::uint32_t* length);
 
 // NorvXMLEscapeName as every store operation begins with it, for paths of less than PathCapacity
-// characters. `escaped` is untouched unless the result is PGSP_OK; a PathText is empty before that.
+// characters. `escaped` is untouched unless the result is PGSP_OK; a PathText must be empty, it is added to.
 [[nodiscard]] Result EscapePath(const wchar_t* path, std::wstring& escaped);
 [[nodiscard]] Result EscapePath(const wchar_t* path, PathText& escaped);
 

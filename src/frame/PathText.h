@@ -24,6 +24,7 @@ public:
     explicit PathText(std::wstring_view text) { Append(text); }
     PathText(const PathText&) = delete;
     PathText& operator=(const PathText&) = delete;
+    ~PathText() = default;
 
     void Append(std::wstring_view text)
     {

@@ -4,7 +4,7 @@
 //
 // Callers may rely on: what Get() lent is never changed and stays readable for as long as it is held,
 // whatever is published meanwhile; nobody waits for a reader or a writer. A version that was replaced is
-// freed by the first update or clearing behind its last reader. Callers must not: expect to see a change that
+// freed by an update or clearing behind its last reader, once no other mark stands in its way. Callers must not: expect to see a change that
 // another thread is making at this moment; or hold what was lent, of any published thing, while they update
 // another as a matter of course: an update frees nothing that its own thread may be reading, and old versions
 // pile up.
@@ -121,7 +121,7 @@ private:
     struct Version
     {
         Version() = default;
-        explicit Version(const Thing& model) : thing(model) {}
+        explicit Version(Thing model) : thing(std::move(model)) {}
 
         Thing thing{};
         SlotSet readers = ~SlotSet(); // those that haven't been seen without marks since it was retired
@@ -138,8 +138,14 @@ private:
         {
             return; // it will be published again, and lives as long as this
         }
-        version->next = m_retired.load();
-        while (!m_retired.compare_exchange_weak(version->next, version))
+        PutBack(version, *version);
+    }
+
+    // Versions that are linked from the first to the last.
+    void PutBack(Version* first, Version& last) noexcept
+    {
+        last.next = m_retired.load();
+        while (!m_retired.compare_exchange_weak(last.next, first))
         {
         }
     }
@@ -150,6 +156,8 @@ private:
     {
         Version* version = m_retired.exchange(nullptr);
         const SlotSet marked = MarkedSlots(); // asked when all of these had been replaced
+        Version* firstRead = nullptr;
+        Version* lastRead = nullptr;
         while (version != nullptr)
         {
             std::unique_ptr<Version> retired(version);
@@ -157,8 +165,14 @@ private:
             retired->readers &= marked;
             if (retired->readers.any())
             {
-                Retire(retired.release());
+                retired->next = firstRead;
+                firstRead = retired.release();
+                lastRead = lastRead == nullptr ? firstRead : lastRead;
             }
+        }
+        if (firstRead != nullptr)
+        {
+            PutBack(firstRead, *lastRead);
         }
     }
 

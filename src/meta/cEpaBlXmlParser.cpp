@@ -17,9 +17,10 @@ ParsedTree cEpaBlXmlParser::Parse(PullReader& reader)
             OpenElement(reader);
             break;
         case XmlNodeType_Text:
-            if (m_current != nullptr)
+            // The last one wins. One without characters is what an engine delivers where a file was cut off.
+            if (m_current != nullptr && !reader.Value().empty())
             {
-                m_current->SetText(reader.Value()); // the last one wins
+                m_current->SetText(reader.Value());
             }
             break;
         case XmlNodeType_EndElement:

@@ -38,14 +38,14 @@ int32_t RegisterNotification(const wchar_t* FolderName, const wchar_t* FileName,
         }
 
         const std::lock_guard lock(notifyRegisterMutex);
-        auto registration = std::make_unique<NotifyRegistration>(NotifyRegistration{
-            TextField<128>(FolderName), TextField<256>(TextOrEmpty(FileName)), TextField<64>(EventName)});
         if (IsRegistered(EventName))
         {
             NORV_TRACE(frame, TraceWarning, "Error: duplicate EventName, return");
             return PGSP_ERR_DUPLICATE_EVENT;
         }
 
+        auto registration = std::make_unique<NotifyRegistration>(NotifyRegistration{
+            TextField<128>(FolderName), TextField<256>(TextOrEmpty(FileName)), TextField<64>(EventName)});
         NORV_TRACE(frame, TraceWarning, "add Event to notifyRegisterList and return OK");
         AddRegistration(std::move(registration));
         return PGSP_OK;

@@ -47,18 +47,18 @@ void DropDeadRegistration(const NotifyRegistration* registration, const std::wst
 // gone.
 void Notify(const NotifyRegistration* registration)
 {
-    // Made ahead of the statements that tell them: one that ran out of memory would keep the mutex of all
+    // Made ahead of the statements that tell it: one that ran out of memory would keep the mutex of all
     // processes.
     const std::wstring eventName(registration->EventName.view());
-    const std::wstring fileName(registration->FileName.view());
     const win::Handle event(OpenEventW(EVENT_MODIFY_STATE, TRUE, eventName.c_str()));
     if (!event)
     {
         DropDeadRegistration(registration, eventName, GetLastError());
         return;
     }
-    NORV_TRACE(workerSource, TraceInfo, "Notify f\xFCr Datei %s und Event %s", TraceToAnsi(fileName.c_str()),
-               TraceToAnsi(eventName.c_str()));
+    const std::wstring_view fileName = registration->FileName.view();
+    NORV_TRACE(workerSource, TraceInfo, "Notify f\xFCr Datei %s und Event %s",
+               TraceToAnsi(fileName.data(), fileName.size()), TraceToAnsi(eventName.c_str()));
     SetEvent(event.get());
 }
 

@@ -106,8 +106,8 @@ win::Handle OpenOrCreateMapping() noexcept
     }
     if (!mapping && GetLastError() == ERROR_ACCESS_DENIED)
     {
-        // Another process was faster, and its list of rights refuses the creation's wish for all of them. When
-        // it isn't there either, the error to be told is the creation's.
+        // Another process was faster, and its list of rights refuses the creation's wish for all of them.
+        // When it isn't there either, the error to be told is the creation's.
         mapping = OpenMapping();
         SetLastError(ERROR_ACCESS_DENIED);
     }

@@ -6,8 +6,9 @@
 // test and one compare with the shared settings counter, and evaluates none of its arguments.
 //
 // Callers may rely on: a statement never fails and never changes errno. Callers must not: rely on
-// GetLastError() across a statement, give it an argument that may throw while the mutex is held, or call TraceFormat and TraceToAnsi outside of one: their buffers
-// are static and belong to whoever holds the trace mutex.
+// GetLastError() across a statement; give it an argument that may throw, which would keep the mutex of all
+// processes; or call TraceFormat and TraceToAnsi outside of one: their buffers are static and belong to
+// whoever holds that mutex.
 
 #include <atomic>
 #include <cstddef>
@@ -30,8 +31,9 @@ struct TraceSource
     const char* component;
 };
 
-// The place in the source that a trace names. A statement names its own; a function that traces for others takes
-// that of its call as its last argument, defaulted to TracePlace::current(): one address, made by the compiler.
+// The place in the source that a trace names. A statement names its own; a function that traces for others
+// takes that of its call as its last argument, defaulted to TracePlace::current(): one address, made by the
+// compiler.
 using TracePlace = std::source_location;
 
 // What a statement looks at. Written under the trace mutex only, read by everyone without it.

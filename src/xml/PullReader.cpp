@@ -90,8 +90,8 @@ std::wstring_view PullReader::Value() const noexcept
 
 std::optional<PullReader::Attribute> PullReader::CurrentAttribute() noexcept
 {
-    const wchar_t* prefix =
-        nullptr; // asked for as well: an attribute whose prefix is out of order has no name
+    // Asked for as well: an attribute whose prefix is out of order has no name.
+    const wchar_t* prefix = nullptr;
     const wchar_t* name = nullptr;
     const wchar_t* value = nullptr;
     UINT nameLength = 0;

@@ -37,7 +37,7 @@ public:
     [[nodiscard]] bool Read(XmlNodeType& type) noexcept;
 
     [[nodiscard]] XmlReadState State() const noexcept;
-    [[nodiscard]] bool IsEmptyElement() const noexcept; // asked on the element, not on its attribute
+    [[nodiscard]] bool IsEmptyElement() const noexcept; // asked on an attribute it answers false
     [[nodiscard]] std::wstring_view LocalName() const noexcept;
     [[nodiscard]] std::wstring_view Value() const noexcept;
 

@@ -17,6 +17,7 @@ namespace
 using testing::AllOf;
 using testing::Contains;
 using testing::Each;
+using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::ResultOf;
@@ -90,6 +91,12 @@ TEST(LibraryFile, MayBeLaidOutAnywhereInTheWholeAddressSpace)
 TEST(LibraryFile, IsNotRunWhereItHoldsData)
 {
     EXPECT_TRUE(PortableExecutable(LibraryPath()).characteristics() & IMAGE_DLLCHARACTERISTICS_NX_COMPAT);
+}
+
+// What the check says that the compiler has put into them: it is linked in with the first.
+TEST(LibraryFile, ChecksItsFrames)
+{
+    EXPECT_THAT(ReadBytes(LibraryPath()), HasSubstr("stack smashing detected"));
 }
 
 } // namespace

@@ -20,6 +20,13 @@ TEST_F(BrokenCatalogue, ThatBreaksOffInAnUnknownElementYieldsTheOneAroundIt)
     EXPECT_EQ(Document("<Profile><Constraints><odd>1</wrong></Constraints></Profile>"), R"(Constraints="1")");
 }
 
+TEST_F(BrokenCatalogue, CutOffBehindATextKeepsIt)
+{
+    EXPECT_EQ(Document("<Profile><min>12<odd>3</odd>"), R"(Profile[min="3"])");
+    EXPECT_EQ(Document("<Profile><min>12<!-- 3 -->4"), R"(min="12")");
+    EXPECT_EQ(Document("<Profile><min>12<odd>3"), R"(min="12")");
+}
+
 TEST_F(BrokenCatalogue, KeepsTheWholeAboveTheElementThatIsOpen)
 {
     const ParsedTree tree = Parsed("<Profile><Constraints><min>1</wrong></Constraints></Profile>");

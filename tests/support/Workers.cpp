@@ -48,10 +48,10 @@ Workers::Workers(HMODULE module) : m_hook("CreateThread", Start, module) {}
 
 Workers::~Workers()
 {
-    for (const HANDLE thread : started)
+    for (std::size_t number = 0; number < count(); ++number)
     {
-        WaitForSingleObject(thread, Patience);
-        CloseHandle(thread);
+        WaitForSingleObject(StartedAt(number), Patience);
+        CloseHandle(StartedAt(number));
     }
     started.clear();
 }

@@ -23,7 +23,8 @@ public:
 
     [[nodiscard]] std::size_t count() const;
 
-    // Until all that have been started have ended. Throws when that takes more than a minute; asks for no memory.
+    // Until all that have been started have ended. Throws when that takes more than a minute. Asks for no
+    // memory.
     void Await() const;
 
 private:

@@ -53,8 +53,8 @@ std::wstring Replaced(DeviceCatalogue& catalogue, const wchar_t* parameter, cons
     return EqualNoCase(value, L"default") ? ConstraintOrEmpty(catalogue, parameter, L"default") : value;
 }
 
-// The user's language compares here, unlike anywhere else: what it passes over, such as a soft hyphen, doesn't
-// count.
+// The user's language compares here, unlike anywhere else: what it passes over, such as a soft hyphen,
+// doesn't count.
 bool IsWord(const std::wstring& value, const wchar_t* word)
 {
     return lstrcmpiW(value.c_str(), word) == 0;

@@ -24,7 +24,7 @@ std::optional<Result> DeviceCatalogue::Unavailable(const ExportFrame& frame, Tra
     }
     if (ProgramFolder().empty())
     {
-        NORV_TRACE(frame, TraceInfo, "Can not get Corvane OAM path from Program Files");
+        NORV_TRACE_AT(place, frame, TraceInfo, "Can not get Corvane OAM path from Program Files");
         return frame.Return(PGSP_OK, place);
     }
     if (m_board.empty())

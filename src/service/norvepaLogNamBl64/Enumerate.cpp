@@ -36,14 +36,19 @@ int32_t LogNameGetEnumBL(uint32_t index, wchar_t* LogName, uint32_t* LogNameLen)
             return frame.FolderNotFound("Can not get ProgramData Path");
         }
 
+        if (*LogNameLen == 0) // which no name fits, whatever the folder holds
+        {
+            NORV_TRACE(frame, TraceExit, "<< return PGSP_ERR_NO_MORE_ITEMS");
+            return PGSP_ERR_NO_MORE_ITEMS;
+        }
+
         const std::wstring folder = LogNameFolder(dataFolder);
         std::wstring candidate;
         std::uint32_t remaining = index;
         for (std::uint32_t i = 0;; ++i)
         {
-            // A buffer of no characters is refused before the folder is looked at. That, and a name too long for
-            // the buffer, look like the end of the list, wherever it stands.
-            if (*LogNameLen == 0 || NorvXMLEnumFile(folder.c_str(), dataFolder, i, &candidate) != PGSP_OK ||
+            // A name too long for the buffer looks like the end of the list, wherever it stands.
+            if (NorvXMLEnumFile(folder.c_str(), dataFolder, i, &candidate) != PGSP_OK ||
                 candidate.size() >= *LogNameLen)
             {
                 NORV_TRACE(frame, TraceExit, "<< return PGSP_ERR_NO_MORE_ITEMS");

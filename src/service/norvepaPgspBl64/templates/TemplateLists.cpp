@@ -36,19 +36,19 @@ Result StepToFile(const std::wstring& folder, std::uint32_t index, std::wstring&
 }
 
 Result ReturnStoreFiles(const ExportFrame& frame, std::wstring_view folder, wchar_t* buffer,
-                        std::uint32_t* length)
+                        std::uint32_t* length, TracePlace place = TracePlace::current())
 {
     if (buffer == nullptr || length == nullptr)
     {
-        return frame.InvalidParameters();
+        return frame.InvalidParameters(place);
     }
     const std::wstring dataFolder = GetDataFolder();
     if (dataFolder.empty())
     {
-        return frame.FolderNotFound("Can not get ProgramData Path");
+        return frame.FolderNotFound("Can not get ProgramData Path", place);
     }
     const std::wstring path = MakeStoreFolder(dataFolder, L"data", folder);
-    return ReturnStringList(frame, AllFiles(path, dataFolder), buffer, length);
+    return ReturnStringList(frame, AllFiles(path, dataFolder), buffer, length, place);
 }
 
 std::wstring WithoutAny(std::wstring name, std::wstring_view prefix)
