@@ -38,9 +38,8 @@ endif()
 target_compile_options(norv_options INTERFACE -Wa,-mbig-obj)
 
 if(NORV_TRAP_UNDEFINED)
-  # Names of functions and lines, which is what a trap is looked up by: with all the rest, linking takes longer than
-  # the tests.
-  target_compile_options(norv_options INTERFACE -g1)
+  # A trap is looked up by the names of functions: with lines and types, linking takes longer than the tests.
+  target_compile_options(norv_options INTERFACE -g0)
   # The trap needs no run-time library, which MinGW-w64 doesn't have; vptr checks would need one.
   target_compile_options(norv_options INTERFACE -fsanitize=undefined -fsanitize-undefined-trap-on-error -fno-sanitize=vptr)
 endif()

@@ -152,9 +152,10 @@ TEST(TraceSettingsInForce, AtTheLoadEverythingGoesToTheBuiltInFile)
     SharedCounter().Set(0); // what a process sees that has not mapped it yet
     peer.Ask("trace 8 line");
 
-    const std::string line = test::ReadBytes(L"C:\\TMP\\NorvFILE1.TRC");
-    EXPECT_THAT(line, testing::StartsWith("L NvEPBL64 P"));
-    EXPECT_THAT(line, testing::EndsWith(" Peer:  line\n"));
+    // Others may trace there as well: a statement that has met a changed counter isn't held back by settings
+    // that another thread has read meanwhile.
+    EXPECT_THAT(test::ReadBytes(L"C:\\TMP\\NorvFILE1.TRC"),
+                testing::ContainsRegex("L NvEPBL64 P[^\n]* Peer:  line\n"));
     DeleteFileW(L"C:\\TMP\\NorvFILE1.TRC");
     if (isMine)
     {
