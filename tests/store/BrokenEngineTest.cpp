@@ -2,8 +2,7 @@
 
 #include "store/CommitScene.h"
 #include "store/EveryWrite.h"
-#include "store/WriteScene.h"
-#include "support/FreshThread.h"
+#include "store/WithoutComScene.h"
 
 #include <objbase.h>
 
@@ -32,29 +31,13 @@ TEST_P(BrokenEngineWrites, AreRefusedAndLeaveTheFileAlone)
     EXPECT_EQ(Bytes(), before);
 }
 
-class BrokenEngineTest : public WriteScene
-{
-protected:
-    // The two operations that bring COM along, each on a thread without it.
-    template <typename Check>
-    void OfBothOnThreadsWithoutCom(const Check& check) const
-    {
-        OnFreshThread([&] {
-            check([this] { return Set(L"LocalSettings", L"a", L"2", L"int"); });
-            EXPECT_FALSE(ThisThreadHasCom());
-        });
-        OnFreshThread([&] {
-            check([this] { return SetHeader(L"a", L"2"); });
-            EXPECT_FALSE(ThisThreadHasCom());
-        });
-    }
-};
+using BrokenEngineTest = WithoutComScene;
 
 TEST_F(BrokenEngineTest, ASecondRefusalTakesComAlongAgain)
 {
     GivenFile(LogDeviceFile(WritableContent()));
 
-    OfBothOnThreadsWithoutCom([](const auto& set) {
+    OfBoth([](const auto& set) {
         const BrokenEngine engine({CO_E_NOTINITIALIZED, REGDB_E_CLASSNOTREG});
         EXPECT_EQ(set(), PGSP_ERR_CANT_CREATE_XML_ENGINE);
         EXPECT_EQ(engine.asked(), 2);
@@ -65,7 +48,7 @@ TEST_F(BrokenEngineTest, NoMoreThanTwoAttemptsAreMade)
 {
     GivenFile(LogDeviceFile(WritableContent()));
 
-    OfBothOnThreadsWithoutCom([](const auto& set) {
+    OfBoth([](const auto& set) {
         const BrokenEngine engine({CO_E_NOTINITIALIZED});
         EXPECT_EQ(set(), PGSP_ERR_CANT_CREATE_XML_ENGINE);
         EXPECT_EQ(engine.asked(), 2);
@@ -76,7 +59,7 @@ TEST_F(BrokenEngineTest, ARefusalOfAnotherKindBringsNoCom)
 {
     GivenFile(LogDeviceFile(WritableContent()));
 
-    OfBothOnThreadsWithoutCom([](const auto& set) {
+    OfBoth([](const auto& set) {
         const BrokenEngine engine({REGDB_E_CLASSNOTREG});
         EXPECT_EQ(set(), PGSP_ERR_CANT_CREATE_XML_ENGINE);
         EXPECT_EQ(engine.asked(), 1);

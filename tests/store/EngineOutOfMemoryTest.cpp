@@ -1,8 +1,7 @@
 #include "store/BrokenEngine.h"
 #include "store/CommitScene.h"
 #include "store/EveryWrite.h"
-#include "store/WriteScene.h"
-#include "support/FreshThread.h"
+#include "store/WithoutComScene.h"
 #include "support/ImportHook.h"
 #include "support/WatchedEngine.h"
 
@@ -149,24 +148,10 @@ TEST_F(EngineOutOfMemoryCommits, NoVerdictOnAFile)
     }
 }
 
-// The two operations that bring COM along, each on a thread without it.
-class EngineOutOfMemoryWithoutCom : public WriteScene
+class EngineOutOfMemoryWithoutCom : public WithoutComScene
 {
 protected:
     EngineOutOfMemoryWithoutCom() { GivenFile(LogDeviceFile(WritableContent())); }
-
-    template <typename Check>
-    void OfBoth(const Check& check) const
-    {
-        OnFreshThread([&] {
-            check([this] { return Set(L"LocalSettings", L"a", L"2", L"int"); });
-            EXPECT_FALSE(ThisThreadHasCom());
-        });
-        OnFreshThread([&] {
-            check([this] { return SetHeader(L"a", L"2"); });
-            EXPECT_FALSE(ThisThreadHasCom());
-        });
-    }
 };
 
 HRESULT WINAPI LackMemory(void*)
