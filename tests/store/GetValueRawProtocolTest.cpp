@@ -132,10 +132,11 @@ TEST_F(GetValueRawProtocol, AMalformedPlaceEndsTheFirstSearchAndTheSecondGoesUpT
     EXPECT_EQ(GetValueRaw(file, L"q", L"min"), NotFound());
 }
 
+bool isFirst = true;
+
 // Opens the first file, and none behind it.
 HRESULT WINAPI OpenOnce(const wchar_t* path, DWORD mode, IStream** stream)
 {
-    static bool isFirst = true;
     if (!std::exchange(isFirst, false))
     {
         return HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND);
@@ -147,6 +148,7 @@ TEST_F(GetValueRawProtocol, AFileThatIsGoneWhenTheSecondSearchOpensItCanNotBeLoa
 {
     const std::wstring file = Protocol(XmlContent().ParamSection(L"p", XmlContent().Element(L"min", L"1")));
     const ImportHook opening("SHCreateStreamOnFileW", OpenOnce);
+    isFirst = true;
 
     EXPECT_EQ(GetValueRaw(file, L"p", L"min"), (Answer{PGSP_ERR_CANT_LOAD_XML_FILE, L""}));
 }

@@ -87,6 +87,7 @@ TEST(TraceDriver, ThatIsOpenGetsEachLineWithItsTerminatorAndIsOpenedOnce)
 {
     TraceScene scene;
     scene.TraceToFiles(L"8");
+    DriverCalls::controlled.clear(); // opened it has been by the first of this process, and stays
     {
         const test::ImportHook opening("CreateFileA", DriverCalls::Open);
         TraceScene::Set(L"Output", L"VXD");
