@@ -4,10 +4,10 @@
 //
 // Callers may rely on: what Get() lent is never changed and stays readable for as long as it is held,
 // whatever is published meanwhile; nobody waits for a reader or a writer. A version that was replaced is
-// freed by an update or clearing behind its last reader, once no other mark stands in its way. Callers must not: expect to see a change that
-// another thread is making at this moment; or hold what was lent, of any published thing, while they update
-// another as a matter of course: an update frees nothing that its own thread may be reading, and old versions
-// pile up.
+// freed by an update or clearing behind its last reader, once no other mark stands in its way. Callers must
+// not: expect to see a change that another thread is making at this moment; or hold what was lent, of any
+// published thing, while they update another as a matter of course: an update frees nothing that its own
+// thread may be reading, and old versions pile up.
 
 #include "meta/Reading.h"
 

@@ -10,9 +10,9 @@
 // reader could find the old thing behind a mark that isn't seen yet.
 //
 // Callers may rely on: neither side waits or asks for memory, and threads that read at once hardly ever write
-// to a cache line in common. Callers must not: keep a mark for longer than a query; nothing that is replaced while it
-// stands is freed ahead of it, whoever reads what. A thread that is terminated while it reads costs the
-// memory of all that is replaced from then on.
+// to a cache line in common. Callers must not: keep a mark for longer than a query; nothing that is replaced
+// while it stands is freed ahead of it, whoever reads what. A thread that is terminated while it reads costs
+// the memory of all that is replaced from then on.
 
 #include <atomic>
 #include <bitset>

@@ -8,8 +8,8 @@
 // store escapes it and appends ".xml". An output is untouched when an argument is refused or the file
 // can't be opened, empty when the value isn't found, unless told otherwise. Every operation answers
 // PGSP_ERR_INVALID_PARAMETERS for a path that is null or empty or an output that is null, and
-// PGSP_ERR_BUFFER_TOO_SHORT for an escaped path of 260 characters or more. Memory that runs out, ours or the DOM
-// engine's, is std::bad_alloc.
+// PGSP_ERR_BUFFER_TOO_SHORT for an escaped path of 260 characters or more. Memory that runs out, ours or the
+// DOM engine's, is std::bad_alloc.
 
 #include "frame/Result.h"
 
