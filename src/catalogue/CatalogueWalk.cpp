@@ -2,7 +2,6 @@
 
 #include "frame/StoreLocations.h"
 #include "frame/Text.h"
-#include "store/norvxml.h"
 
 namespace norvepa
 {
@@ -14,19 +13,6 @@ std::wstring CatalogueFile(const wchar_t* filePath)
     return file;
 }
 
-Result LoadCatalogue(const std::wstring& file, Document& document)
-{
-    if (FAILED(document.Create()))
-    {
-        return PGSP_ERR_CANT_CREATE_XML_ENGINE;
-    }
-    if (const Result result = CheckFileSize(file); result != PGSP_OK)
-    {
-        return result;
-    }
-    return document.Load(file) ? PGSP_OK : PGSP_ERR_CANT_LOAD_XML_FILE;
-}
-
 bool IsParamSectionOf(const Node& node, std::wstring_view param)
 {
     if (!node.IsNamed(L"ParamSection"))
@@ -35,23 +21,6 @@ bool IsParamSectionOf(const Node& node, std::wstring_view param)
     }
     const Node attribute = node.Attribute(L"Param");
     return attribute && EqualNoCase(attribute.Text().view(), param);
-}
-
-bool IsEntry(const Node& node)
-{
-    return node.IsNamed(L"Parameter") || node.IsNamed(L"ParameterInt") || node.IsNamed(L"ParameterBool");
-}
-
-Node ChildNamed(const Node& parent, std::wstring_view name)
-{
-    for (const Node& child : parent.Children())
-    {
-        if (child.IsNamed(name))
-        {
-            return child;
-        }
-    }
-    return {};
 }
 
 std::vector<Node> ValueSections(const Node& parameterSection, std::wstring_view param)

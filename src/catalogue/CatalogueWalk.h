@@ -2,7 +2,6 @@
 
 // What the walks over catalogue files have in common: the path, the sections, the elements that hold a value.
 
-#include "frame/Result.h"
 #include "meta/cEpaBlElement.h"
 #include "xml/Document.h"
 
@@ -16,16 +15,8 @@ namespace norvepa
 // A path as catalogue queries take it: the extension added by the anywhere rule, the name not escaped.
 [[nodiscard]] std::wstring CatalogueFile(const wchar_t* filePath);
 
-// Document: the file loaded; unlike the writers' load, only the size guard has a word for the trace.
-// PGSP_ERR_CANT_CREATE_XML_ENGINE, PGSP_ERR_FILE_NOT_FOUND, PGSP_ERR_CANT_LOAD_XML_FILE.
-[[nodiscard]] Result LoadCatalogue(const std::wstring& file, Document& document);
-
-// Document: `ParamSection` of this `Param`; `Parameter`, `ParameterInt` or `ParameterBool`.
+// Document: `ParamSection` of this `Param`.
 [[nodiscard]] bool IsParamSectionOf(const Node& node, std::wstring_view param);
-[[nodiscard]] bool IsEntry(const Node& node);
-
-// Document: the first child of this name; empty when there is none.
-[[nodiscard]] Node ChildNamed(const Node& parent, std::wstring_view name);
 
 // Document: the sections of the values with this `Param` in the collections of a parameter's section.
 [[nodiscard]] std::vector<Node> ValueSections(const Node& parameterSection, std::wstring_view param);

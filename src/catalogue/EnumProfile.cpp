@@ -4,6 +4,7 @@
 #include "frame/Text.h"
 #include "meta/cMetaFiles.h"
 #include "store/BufferForms.h"
+#include "store/DomWalk.h"
 
 namespace norvepa
 {
@@ -43,12 +44,6 @@ Node ChildOfProfile(const Document& document, std::wstring_view parameter, std::
     return {};
 }
 
-std::wstring ChildText(const Node& parent, std::wstring_view name)
-{
-    const Node child = ChildNamed(parent, name);
-    return child ? std::wstring(child.Text().view()) : std::wstring{};
-}
-
 // The child number `index` of those that have children.
 const cEpaBlElement* NthWithChildren(const cEpaBlElement& section, std::uint32_t index)
 {
@@ -76,7 +71,7 @@ Result NorvXMLEnumProfileValue(const wchar_t* filePath, const wchar_t* parameter
         return PGSP_ERR_INVALID_PARAMETERS;
     }
     Document document;
-    if (const Result result = LoadCatalogue(CatalogueFile(filePath), document); result != PGSP_OK)
+    if (const Result result = OpenDocument(CatalogueFile(filePath), document); result != PGSP_OK)
     {
         return result;
     }
@@ -108,7 +103,7 @@ Result NorvXMLEnumSubProfile(const wchar_t* filePath, const wchar_t* parameter, 
         return PGSP_ERR_INVALID_PARAMETERS;
     }
     Document document;
-    if (const Result result = LoadCatalogue(CatalogueFile(filePath), document); result != PGSP_OK)
+    if (const Result result = OpenDocument(CatalogueFile(filePath), document); result != PGSP_OK)
     {
         return result;
     }

@@ -2,6 +2,7 @@
 #include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "frame/Text.h"
+#include "store/DomWalk.h"
 
 #include <algorithm>
 #include <optional>
@@ -88,7 +89,7 @@ Result NorvXMLProtocolGetValueRaw(const wchar_t* filePath, const wchar_t* parame
     }
 
     Document document;
-    if (const Result result = LoadCatalogue(CatalogueFile(filePath), document); result != PGSP_OK)
+    if (const Result result = OpenDocument(CatalogueFile(filePath), document); result != PGSP_OK)
     {
         return result;
     }

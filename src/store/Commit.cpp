@@ -3,7 +3,9 @@
 #include "frame/FileNames.h"
 #include "frame/StoreLocations.h"
 #include "store/DomWalk.h"
-#include "store/Renaming.h"
+#include "store/FileSteps.h"
+#include "store/ProvisionalFile.h"
+#include "store/TemporaryForm.h"
 #include "store/norvxml.h"
 #include "xml/SchemaCollection.h"
 
@@ -121,7 +123,7 @@ Result NorvXMLCommitTemp(const wchar_t* fileName, const wchar_t* schemaName, con
         return PGSP_ERR_INVALID_PARAMETERS;
     }
 
-    const std::wstring temporaryName = std::wstring(fileName) + L"(temp)";
+    const std::wstring temporaryName = std::wstring(fileName) + TemporaryMark;
     const std::wstring temporary = JoinPath(folderPath, temporaryName);
     const Result validation = NorvXMLValidateFile(temporaryName.c_str(), schemaName, folderPath);
     if (validation != PGSP_OK)
@@ -140,6 +142,22 @@ Result NorvXMLCommitTemp(const wchar_t* fileName, const wchar_t* schemaName, con
     }
     // Any other failure of the deletion, and one of the renaming, are not told.
     return deletion == PGSP_ERR_CANT_DELETE_FILE ? deletion : PGSP_OK;
+}
+
+Result CommitDeletion(const std::wstring& folderPath, const wchar_t* fileName, const wchar_t* schemaName,
+                      const std::function<Result(const wchar_t* filePath)>& deletion)
+{
+    const std::wstring file = JoinPath(folderPath, fileName);
+    std::wstring escaped;
+    if (const Result result = EscapePath(file.c_str(), escaped); result != PGSP_OK)
+    {
+        return result;
+    }
+
+    const std::wstring temporary = TemporaryForm(escaped);
+    const ProvisionalFile provisional(temporary);
+    const Result result = deletion(file.c_str());
+    return result == PGSP_OK ? NorvXMLCommitTemp(fileName, schemaName, folderPath.c_str()) : result;
 }
 
 } // namespace norvepa

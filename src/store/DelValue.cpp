@@ -1,10 +1,9 @@
 #include "frame/Arguments.h"
 #include "frame/FileNames.h"
 #include "frame/StoreLocations.h"
-#include "frame/Text.h"
 #include "store/DomWalk.h"
-#include "store/ProvisionalFile.h"
 #include "store/PullWalk.h"
+#include "store/TemporaryForm.h"
 #include "store/norvxml.h"
 
 #include <algorithm>
@@ -18,8 +17,6 @@ namespace
 
 constexpr TraceSource source{"NorvXMLDelValue: ", "XML"};
 
-constexpr std::array<std::wstring_view, 3> EntryElements{L"Parameter", L"ParameterInt", L"ParameterBool"};
-
 // Sections of files without a schema: what is removed from them is saved at once.
 constexpr std::array<std::wstring_view, 4> SectionsSavedInPlace{
     L"NotificationSection",
@@ -28,31 +25,10 @@ constexpr std::array<std::wstring_view, 4> SectionsSavedInPlace{
     L"PGSP_Section",
 };
 
-template <std::size_t Size>
-bool Holds(const std::array<std::wstring_view, Size>& words, std::wstring_view word)
+bool IsSavedInPlace(std::wstring_view section)
 {
-    return std::find(words.begin(), words.end(), word) != words.end();
-}
-
-bool IsEntryOf(const Node& entry, std::wstring_view parameter)
-{
-    if (!Holds(EntryElements, entry.Name().view()))
-    {
-        return false;
-    }
-    for (const Node& child : entry.Children())
-    {
-        if (child.IsNamed(L"Name") && EqualNoCase(child.Text().view(), parameter))
-        {
-            return true;
-        }
-    }
-    return false;
-}
-
-std::wstring TemporaryForm(const std::wstring& escapedPath)
-{
-    return escapedPath + L"(temp).xml";
+    return std::find(SectionsSavedInPlace.begin(), SectionsSavedInPlace.end(), section) !=
+           SectionsSavedInPlace.end();
 }
 
 // Removes the first entry of this name that the engine lets go.
@@ -62,7 +38,7 @@ bool RemoveEntry(const Node& section, std::wstring_view parameter)
     while (entry)
     {
         const Node next = entry.NextSibling();
-        if (IsEntryOf(entry, parameter) && entry.Parent().Remove(entry))
+        if (IsEntry(entry) && IsCalled(entry, parameter) && entry.Parent().Remove(entry))
         {
             return true;
         }
@@ -99,7 +75,7 @@ Result NorvXMLDelValue(const wchar_t* filePath, const wchar_t* section, const wc
         return PGSP_ERR_PARAM_NOT_FOUND;
     }
 
-    if (Holds(SectionsSavedInPlace, sectionName))
+    if (IsSavedInPlace(sectionName))
     {
         static_cast<void>(document.Save(file));
         return PGSP_OK;
@@ -115,17 +91,9 @@ Result NorvXMLDelValue(const wchar_t* filePath, const wchar_t* section, const wc
 Result DelValueAndCommit(const std::wstring& folderPath, const wchar_t* fileName, const wchar_t* schemaName,
                          const wchar_t* section, const wchar_t* parameter)
 {
-    const std::wstring file = JoinPath(folderPath, fileName);
-    std::wstring escaped;
-    if (const Result result = EscapePath(file.c_str(), escaped); result != PGSP_OK)
-    {
-        return result;
-    }
-
-    const std::wstring temporary = TemporaryForm(escaped);
-    const ProvisionalFile provisional(temporary);
-    const Result result = NorvXMLDelValue(file.c_str(), section, parameter);
-    return result == PGSP_OK ? NorvXMLCommitTemp(fileName, schemaName, folderPath.c_str()) : result;
+    return CommitDeletion(folderPath, fileName, schemaName, [=](const wchar_t* filePath) {
+        return NorvXMLDelValue(filePath, section, parameter);
+    });
 }
 
 } // namespace norvepa

@@ -47,6 +47,19 @@ Result OpenDocument(const TraceSource& source, const std::wstring& file, Documen
     return result == PGSP_OK ? LoadDocument(source, file, document) : result;
 }
 
+Result OpenDocument(const std::wstring& file, Document& document)
+{
+    if (FAILED(document.Create()))
+    {
+        return PGSP_ERR_CANT_CREATE_XML_ENGINE;
+    }
+    if (const Result result = CheckFileSize(file); result != PGSP_OK)
+    {
+        return result;
+    }
+    return document.Load(file) ? PGSP_OK : PGSP_ERR_CANT_LOAD_XML_FILE;
+}
+
 ComForOneCall::~ComForOneCall()
 {
     if (m_ours)
@@ -92,6 +105,42 @@ Node FirstElement(const Document& document, std::wstring_view name)
         }
     }
     return {};
+}
+
+bool IsEntry(const Node& node)
+{
+    const Bstr name = node.Name();
+    return name.view() == L"Parameter" || name.view() == L"ParameterInt" || name.view() == L"ParameterBool";
+}
+
+Node ChildNamed(const Node& parent, std::wstring_view name)
+{
+    for (const Node& child : parent.Children())
+    {
+        if (child.IsNamed(name))
+        {
+            return child;
+        }
+    }
+    return {};
+}
+
+std::wstring ChildText(const Node& parent, std::wstring_view name)
+{
+    const Node child = ChildNamed(parent, name);
+    return child ? std::wstring(child.Text().view()) : std::wstring{};
+}
+
+bool IsCalled(const Node& element, std::wstring_view parameter)
+{
+    for (const Node& child : element.Children())
+    {
+        if (child.IsNamed(L"Name") && EqualNoCase(child.Text().view(), parameter))
+        {
+            return true;
+        }
+    }
+    return false;
 }
 
 Node ValueOfEntry(const Node& entry, std::wstring_view parameter)

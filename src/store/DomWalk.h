@@ -21,6 +21,9 @@ namespace norvepa
 // PGSP_ERR_CANT_LOAD_XML_FILE.
 [[nodiscard]] Result OpenDocument(const TraceSource& source, const std::wstring& file, Document& document);
 
+// The same without a word in the trace, but for the size guard's: how files are opened that are only asked.
+[[nodiscard]] Result OpenDocument(const std::wstring& file, Document& document);
+
 // COM for a call that may come on a thread without it: when there is no engine for want of COM, COM is
 // initialised and the engine asked for once more. What was initialised ends with the object, which has to
 // outlive the document; but a call that fails to load its file leaves its thread initialised.
@@ -44,6 +47,18 @@ private:
 
 // The first element of this name below the root; empty when there is none.
 [[nodiscard]] Node FirstElement(const Document& document, std::wstring_view name);
+
+// `Parameter`, `ParameterInt` or `ParameterBool`.
+[[nodiscard]] bool IsEntry(const Node& node);
+
+// The first child of this name; empty when there is none.
+[[nodiscard]] Node ChildNamed(const Node& parent, std::wstring_view name);
+
+// The text of that child; empty when there is none.
+[[nodiscard]] std::wstring ChildText(const Node& parent, std::wstring_view name);
+
+// True when a child `Name` of an entry or a link is this one.
+[[nodiscard]] bool IsCalled(const Node& element, std::wstring_view parameter);
 
 // The `Value` of an entry whose `Name`, ahead of it, is the parameter's; empty when it isn't this entry.
 [[nodiscard]] Node ValueOfEntry(const Node& entry, std::wstring_view parameter);

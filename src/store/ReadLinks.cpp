@@ -1,5 +1,6 @@
 #include "frame/Arguments.h"
 #include "frame/Text.h"
+#include "store/LinkSection.h"
 #include "store/PullWalk.h"
 #include "store/norvxml.h"
 
@@ -11,11 +12,6 @@ namespace norvepa
 
 namespace
 {
-
-std::wstring_view LinkSection(int wide)
-{
-    return wide == 0 ? L"UserInterface64" : L"UserInterface";
-}
 
 struct ResourceTexts
 {

@@ -54,10 +54,19 @@ bool IsBoolean(std::wstring_view text) noexcept
     return EqualNoCase(text, L"true") || EqualNoCase(text, L"false");
 }
 
+bool AreNameCharacters(std::wstring_view parameter) noexcept
+{
+    return parameter.find_first_of(ForbiddenInNames) == std::wstring_view::npos;
+}
+
+bool AreValueCharacters(std::wstring_view value) noexcept
+{
+    return value.find_first_of(ForbiddenInValues) == std::wstring_view::npos;
+}
+
 bool AreStringCharacters(std::wstring_view parameter, std::wstring_view value) noexcept
 {
-    return parameter.find_first_of(ForbiddenInNames) == std::wstring_view::npos &&
-           value.find_first_of(ForbiddenInValues) == std::wstring_view::npos;
+    return AreNameCharacters(parameter) && AreValueCharacters(value);
 }
 
 std::wstring NormalisedBoolean(std::wstring_view text)

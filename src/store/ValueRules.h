@@ -20,7 +20,11 @@ namespace norvepa
 // True for "true" and "false" without regard to case.
 [[nodiscard]] bool IsBoolean(std::wstring_view text) noexcept;
 
-// True when neither name nor value holds a character that a string parameter's may not.
+// True when a string parameter's name, or its value, holds none of the characters that it may not.
+[[nodiscard]] bool AreNameCharacters(std::wstring_view parameter) noexcept;
+[[nodiscard]] bool AreValueCharacters(std::wstring_view value) noexcept;
+
+// Both of them.
 [[nodiscard]] bool AreStringCharacters(std::wstring_view parameter, std::wstring_view value) noexcept;
 
 // "true" or "false" in lower case, for a text that IsBoolean.

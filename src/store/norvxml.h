@@ -14,6 +14,7 @@
 #include "frame/Result.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace norvepa
@@ -146,10 +147,58 @@ namespace norvepa
 [[nodiscard]] Result NorvXMLCommitTemp(const wchar_t* fileName, const wchar_t* schemaName,
                                        const wchar_t* folderPath);
 
-// NorvXMLDelValue and what has to follow it, for a file of a folder that goes through a "(temp)" form. That
-// form is gone also when memory runs out on the way.
+// A deletion that leaves a "(temp)" form of a folder's file, and the commit that has to follow it. That form
+// is gone also when memory runs out on the way. `deletion` is given the file's store path.
+[[nodiscard]] Result CommitDeletion(const std::wstring& folderPath, const wchar_t* fileName,
+                                    const wchar_t* schemaName,
+                                    const std::function<Result(const wchar_t* filePath)>& deletion);
+
+// The same for NorvXMLDelValue.
 [[nodiscard]] Result DelValueAndCommit(const std::wstring& folderPath, const wchar_t* fileName,
                                        const wchar_t* schemaName, const wchar_t* section,
                                        const wchar_t* parameter);
+
+// Texts, pages and the section `Ndi` of a log device ---------------------------------------------------
+//
+// By documents, as the writing above. `wide` chooses the section of links: 0 `UserInterface64`, any other
+// number `UserInterface`. A null parameter is refused.
+
+// The entries of `Ndi` and of the section of links, and the links to pages, by index; PGSP_ERR_NO_MORE_ITEMS
+// past the last. A link's value is its assembly, "," and its function; without an assembly it is empty.
+[[nodiscard]] Result NorvXMLEnumNdi(const wchar_t* filePath, std::uint32_t index, std::wstring* name,
+                                    std::wstring* value, int wide);
+
+// Sets a link, and makes it, and the section, where they aren't there: a `Resource` when a resource id is
+// given or no function, otherwise a `ParameterAssemblyLink`. What is null is left alone and not made; the
+// function is made for "PropSheet" and "Diagnosis" only, the resource id for the four names of texts. Nothing
+// is done when all that is given is there, without regard to case.
+[[nodiscard]] Result NorvXMLSetNdi(const wchar_t* filePath, const wchar_t* parameter, const wchar_t* assembly,
+                                   const wchar_t* path, const wchar_t* function, const wchar_t* resourceId,
+                                   int wide);
+
+// Removes a `ParameterAssemblyLink`, into the file's "(temp)" form: the caller goes on with
+// NorvXMLCommitTemp. PGSP_ERR_PARAM_NOT_FOUND when there is none.
+[[nodiscard]] Result NorvXMLDelNdi(const wchar_t* filePath, const wchar_t* parameter, int wide);
+
+// Parameter data: flat files of named parameters ---------------------------------------------------------
+//
+// By documents; entries are met at whatever depth, names without regard to case. A null name is refused, and
+// there are no rules for names or values beyond what XML can hold.
+
+// The first entry of the name; PGSP_ERR_PARAM_NOT_FOUND when there is none, or it has no value.
+[[nodiscard]] Result NorvXMLGetParameterData(const wchar_t* filePath, const wchar_t* name,
+                                             std::wstring* value);
+
+// Sets an entry of the type ("int", "bool", all else is a text), and makes it below the root where it isn't
+// there: entries of another type don't count. PGSP_ERR_SAME_VALUE here regards case.
+[[nodiscard]] Result NorvXMLSetParameterData(const wchar_t* filePath, const wchar_t* name,
+                                             const wchar_t* value, const wchar_t* type);
+
+// Removes the first entry of the name, in the file itself. PGSP_ERR_CANT_SET_VALUE when there is none.
+[[nodiscard]] Result NorvXMLDelParameterData(const wchar_t* filePath, const wchar_t* name);
+
+// All entries by index. Unlike all other enumerations it ends with PGSP_ERR_PARAM_NOT_FOUND.
+[[nodiscard]] Result NorvXMLEnumParameterData(const wchar_t* filePath, std::uint32_t index,
+                                              std::wstring* name, std::wstring* value);
 
 } // namespace norvepa

@@ -1,0 +1,62 @@
+#pragma once
+
+// The steps of a change on whole files, each in two halves: what can run out of memory first, the step
+// itself later. A swap gets its steps ready ahead of the first, so that none is missing once a file has gone.
+//
+// Paths are those that the store takes, and must outlive the object: there may be no memory for a copy.
+
+#include "frame/Result.h"
+
+#include <string>
+
+namespace norvepa
+{
+
+class Deletion
+{
+public:
+    explicit Deletion(const wchar_t* filePath);
+
+    // As NorvXMLDeleteFile.
+    [[nodiscard]] Result Run() const noexcept;
+
+private:
+    const wchar_t* m_filePath;
+    std::wstring m_file;
+    Result m_escaping; // fills the one above
+};
+
+class Copying
+{
+public:
+    Copying(const wchar_t* sourcePath, const wchar_t* destinationPath);
+
+    // As NorvXMLCopyFile.
+    [[nodiscard]] Result Run() const noexcept;
+
+    // What the copy is called on disk.
+    [[nodiscard]] const std::wstring& newFile() const noexcept { return m_newFile; }
+
+private:
+    const wchar_t* m_destinationPath;
+    std::wstring m_oldFile;
+    std::wstring m_newFile;
+    Result m_escaping; // fills the two above
+};
+
+class Renaming
+{
+public:
+    Renaming(const wchar_t* sourcePath, const wchar_t* destinationPath);
+
+    // As NorvXMLRenameFile.
+    [[nodiscard]] Result Run() const noexcept;
+
+private:
+    const wchar_t* m_destinationPath;
+    std::wstring m_oldFile;
+    std::wstring m_newFile;
+    Result m_escaping; // fills the two above
+};
+
+} // namespace norvepa
