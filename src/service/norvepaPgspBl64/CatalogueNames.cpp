@@ -1,3 +1,4 @@
+#include "frame/FileNames.h"
 #include "frame/Text.h"
 #include "service/norvepaPgspBl64/norvepaPgspBl64.h"
 
@@ -58,6 +59,27 @@ std::wstring MakeProtocolName(std::wstring_view protocol)
     return WithPrefix(protocol, ProtocolPrefix);
 }
 
+std::wstring MakeTemplateName(std::wstring_view name)
+{
+    return WithPrefix(name, TemplatePrefix);
+}
+
+Result MakeTemplateNameEscaping(const wchar_t* name, std::wstring& made)
+{
+    if (HoldsPrefix(name, TemplatePrefix))
+    {
+        made = name;
+        return PGSP_OK;
+    }
+    std::wstring escaped;
+    const Result result = EscapePath(name, escaped);
+    if (result == PGSP_OK)
+    {
+        made = std::wstring(TemplatePrefix).append(escaped);
+    }
+    return result;
+}
+
 std::wstring MapProfileWord(std::wstring_view profile)
 {
     for (const ProfileRow& row : ProfileWords)
@@ -83,6 +105,11 @@ std::wstring BoardFile(std::wstring_view programFolder, std::wstring_view name)
 std::wstring ProtocolFile(std::wstring_view programFolder, std::wstring_view name)
 {
     return JoinPath(CatalogueFolder(programFolder, ProtocolsWord), name);
+}
+
+std::wstring TemplateFile(std::wstring_view programFolder, std::wstring_view name)
+{
+    return JoinPath(CatalogueFolder(programFolder, TemplatesWord), name);
 }
 
 } // namespace norvepa

@@ -32,12 +32,18 @@ inline constexpr std::wstring_view TemplatePrefix = L"Automation-OnlineAccess-LD
 // The file name of a protocol, of which nothing is dropped.
 [[nodiscard]] std::wstring MakeProtocolName(std::wstring_view protocol);
 
+// The file name of a template. The second form escapes a name that lacks the prefix, and answers the codes of
+// that; `made` is untouched then.
+[[nodiscard]] std::wstring MakeTemplateName(std::wstring_view name);
+[[nodiscard]] Result MakeTemplateNameEscaping(const wchar_t* name, std::wstring& made);
+
 // The number of a bus profile that a caller may name by a word instead; any other text as it is.
 [[nodiscard]] std::wstring MapProfileWord(std::wstring_view profile);
 
-// The store paths: of one of the catalogue's folders, and of the files in two of them.
+// The store paths: of one of the catalogue's folders, and of the files in three of them.
 [[nodiscard]] std::wstring CatalogueFolder(std::wstring_view programFolder, std::wstring_view folder);
 [[nodiscard]] std::wstring BoardFile(std::wstring_view programFolder, std::wstring_view name);
 [[nodiscard]] std::wstring ProtocolFile(std::wstring_view programFolder, std::wstring_view name);
+[[nodiscard]] std::wstring TemplateFile(std::wstring_view programFolder, std::wstring_view name);
 
 } // namespace norvepa
