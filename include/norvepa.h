@@ -454,6 +454,235 @@ int32_t LogDeviceSetValueBL(const wchar_t* LogDevice, const wchar_t* Parameter, 
  */
 int32_t LogDeviceDelValueBL(const wchar_t* LogDevice, const wchar_t* Parameter);
 
+/* Log devices: how they are made, copied and removed ------------------------------------------------- */
+
+/*
+ * Makes a log device from a template, which it is byte for byte afterwards. Makes the folder of log devices
+ * where it isn't there yet. A template may make log devices that are hidden or can't be removed.
+ *
+ *   DefLogDeviceName  in  the template; "Automation-OnlineAccess-LDT-" is put in front of a name without it
+ *   LogDeviceName     in  the new log device
+ *
+ * PGSP_OK                      made
+ * PGSP_ERR_INVALID_PARAMETERS  an argument is null or empty
+ * PGSP_ERR_BUFFER_TOO_SHORT    the path has 260 characters or more
+ * PGSP_ERR_FILE_NOT_FOUND      there is no such template
+ * PGSP_ERR_CANT_COPY_FILE      there is such a log device, which is left as it is, or the file can't be made
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found; without a data folder the path is relative
+ *
+ * Notifies "LogDevices", the new log device.
+ */
+int32_t LogDeviceCreateFromDefBL(const wchar_t* DefLogDeviceName, const wchar_t* LogDeviceName);
+
+/*
+ * Copies a log device. The copy is visible and can be removed, whatever the original is.
+ *
+ *   CopyFromLogDevice  in  the log device
+ *   CopyToLogDevice    in  the new log device
+ *
+ * PGSP_OK                      copied; that "enable_delete" or "hidden" couldn't be set isn't told, unless
+ *                              memory ran out for it, and then there is no copy
+ * PGSP_ERR_INVALID_PARAMETERS  an argument is null or empty
+ * PGSP_ERR_BUFFER_TOO_SHORT    a path has 260 characters or more
+ * PGSP_ERR_CANT_COPY_FILE      there is no such log device, there is one of the new name, which is left as it
+ *                              is, or the file can't be made
+ *
+ * Notifies "LogDevices", the new log device: for each of the two values that is another than the original's,
+ * then for the copy itself.
+ */
+int32_t LogDeviceCopyBL(const wchar_t* CopyFromLogDevice, const wchar_t* CopyToLogDevice);
+
+/*
+ * Removes a log device with its subdevices, if its parameter "enable_delete" allows it. Log names that are
+ * linked to it keep their link.
+ *
+ *   LogDevice       in  the log device; one whose name holds PGSP_TEMP_LOG_DEVICE needs no permission
+ *   AllowStdDelete  in  0 asks "enable_delete" of the section Ndi; any other number goes without asking
+ *
+ * PGSP_OK                            removed
+ * PGSP_ERR_INVALID_PARAMETERS        LogDevice is null or empty
+ * PGSP_ERR_BUFFER_TOO_SHORT          the path has 260 characters or more
+ * PGSP_ERR_LOG_DEVICE_NOT_DELETABLE  "enable_delete" is something else than "true", in any case
+ * PGSP_ERR_CANT_LOAD_XML_FILE        there is no such log device to be asked, or its file can't be read
+ * PGSP_ERR_PARAM_NOT_FOUND           it doesn't say whether it may be removed
+ * PGSP_ERR_FOLDER_NOT_FOUND          the data folder can't be found, and the permission is needed
+ * PGSP_ERR_CANT_DELETE_FILE          there is no such log device, or its file is in use or protected
+ *
+ * Notifies "LogDevices", the log device, when it was removed.
+ */
+int32_t LogDeviceDelBL(const wchar_t* LogDevice, int32_t AllowStdDelete);
+
+/* Temporary log devices: a copy to work on ------------------------------------------------------------
+ *
+ * A log device can be changed aside: make a temporary copy, change that by name like any other, and put it in
+ * the place of the original or remove it. There are 255, PGSP_TEMP_LOG_DEVICE____000 to ...254, for all
+ * processes together. Whoever has the name may use it; one that nobody removes keeps its number. Enumerations
+ * leave them out, the lists of files don't. None of these functions notifies anybody, and neither do changes
+ * to a temporary log device.
+ */
+
+/*
+ * Makes a temporary copy of a log device under the first number that is free.
+ *
+ *   LogDevice        in      the log device
+ *   TempLogDevice    out     buffer for the copy's name, which has 27 characters
+ *   dwTempLogDevice  in/out  its length in characters
+ *
+ * PGSP_OK                           TempLogDevice and dwTempLogDevice are set
+ * PGSP_ERR_INVALID_PARAMETERS       LogDevice is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT         dwTempLogDevice tells the name's length; the copy has been made all the
+ *                                   same and keeps its number, so offer 28 characters at once
+ * PGSP_CANT_CREATE_TEMP_LOG_DEVICE  there is no such log device, no number is free, or no file can be made
+ */
+int32_t LogDeviceCreateTempBL(const wchar_t* LogDevice, wchar_t* TempLogDevice, uint32_t* dwTempLogDevice);
+
+/*
+ * Makes a temporary log device from a template, under the first number that is free. Its parameter
+ * "DefLogDevice" in the section Ndi holds the template's name as given.
+ *
+ *   DefLogDeviceName  in      the template; "Automation-OnlineAccess-LDT-" is put in front of a name without
+ *                             it
+ *   TempLogDevice     out     buffer for the name
+ *   dwTempLogDevice   in/out  its length in characters
+ *
+ * Results as LogDeviceCreateTempBL, of the template; that "DefLogDevice" couldn't be set isn't told. And
+ * PGSP_ERR_FOLDER_NOT_FOUND         the data folder or the program folder can't be found
+ */
+int32_t LogDeviceCreateTempFromDefBL(const wchar_t* DefLogDeviceName, wchar_t* TempLogDevice,
+                                     uint32_t* dwTempLogDevice);
+
+/*
+ * Puts a temporary log device in the place of a log device: removes that, copies, removes the temporary one.
+ * Any log device can so take the place of any other.
+ *
+ *   TempLogDevice  in  the temporary log device
+ *   LogDevice      in  the log device
+ *
+ * PGSP_OK                      LogDevice is now what TempLogDevice was, which is gone
+ * PGSP_ERR_INVALID_PARAMETERS  an argument is null, or makes no path; both empty names are paths
+ * PGSP_ERR_BUFFER_TOO_SHORT    a path has 260 characters or more
+ * PGSP_ERR_FILE_NOT_FOUND      LogDevice can't be removed, be it that there is none; nothing has changed
+ * PGSP_ERR_CANT_COPY_FILE      TempLogDevice can't be copied: LogDevice is gone, TempLogDevice, if there was
+ *                              one, is all that is left
+ * PGSP_ERR_CANT_DELETE_FILE    LogDevice is now what TempLogDevice is, but that is still there
+ * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
+ */
+int32_t LogDeviceUpdateWithTempBL(const wchar_t* TempLogDevice, const wchar_t* LogDevice);
+
+/*
+ * Removes a temporary log device.
+ *
+ *   TempLogDevice  in  a name with PGSP_TEMP_LOG_DEVICE in it, in this case
+ *
+ * PGSP_OK                      removed
+ * PGSP_ERR_INVALID_PARAMETERS  TempLogDevice is null or empty, or isn't such a name
+ * PGSP_ERR_BUFFER_TOO_SHORT    the path has 260 characters or more
+ * PGSP_ERR_CANT_DELETE_FILE    there is no such log device, or its file is in use or protected
+ * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
+ */
+int32_t LogDeviceDelTempBL(const wchar_t* TempLogDevice);
+
+/* Network device identity: what tools show of a log device -------------------------------------------
+ *
+ * The section Ndi of a log device holds plain parameters; its section UserInterface, or for 64-bit processes
+ * UserInterface64, links to texts and pages in libraries. These functions show both as one list of named
+ * values. The value of a link is the library's file, a comma, and the number of a text or the name of a
+ * function. `flag` chooses the section of links: 0 UserInterface64, any other number UserInterface. Names
+ * are compared without regard to case.
+ */
+
+/*
+ * Enumerates the parameters of the section Ndi and the links to pages: ask for index 0, 1, 2 and so on. Links
+ * to texts aren't among them.
+ *
+ *   LogDevice  in      the log device
+ *   index      in      which one
+ *   Parameter  out     buffer for the name
+ *   parLen     in/out  its length in characters
+ *   Value      out     buffer for the value
+ *   valLen     in/out  its length in characters
+ *   flag       in      the section of links
+ *
+ * PGSP_OK                          all four are set
+ * PGSP_ERR_INVALID_PARAMETERS      LogDevice is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT        a buffer is too small and its length now tells; the name goes first, so a
+ *                                  name that doesn't fit leaves Value and valLen as they were; also for a
+ *                                  path of 260 characters or more
+ * PGSP_ERR_NO_MORE_ITEMS           index lies past the last one
+ * PGSP_ERR_FILE_NOT_FOUND          there is no such log device
+ * PGSP_ERR_CANT_LOAD_XML_FILE      its file is malformed or over 10,000,000 bytes
+ * PGSP_ERR_CANT_CREATE_XML_ENGINE  COM isn't initialised on this thread
+ * PGSP_ERR_FOLDER_NOT_FOUND        the data folder can't be found
+ */
+int32_t PGSP_LogDeviceEnumNdiValueBL(const wchar_t* LogDevice, uint32_t index, wchar_t* Parameter,
+                                     uint32_t* parLen, wchar_t* Value, uint32_t* valLen, int32_t flag);
+
+/*
+ * Reads one of these values: a parameter of the section Ndi, or else a link to a page, or else the text
+ * itself that a link of this name leads to, in the user's language.
+ *
+ *   LogDevice  in      the log device
+ *   Parameter  in      the parameter
+ *   Value      out     buffer for the value; a link with neither library nor function is empty
+ *   dwValue    in/out  its length in characters
+ *   flag       in      the section of links
+ *
+ * PGSP_OK                      Value and dwValue are set
+ * PGSP_ERR_INVALID_PARAMETERS  LogDevice or Parameter is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the length of a link or a text. A parameter of the section Ndi
+ *                              that doesn't fit is passed over instead, and what comes behind it answers
+ * PGSP_ERR_FILE_NOT_FOUND      there is no such log device, or its file can't be read
+ * PGSP_ERR_PARAM_NOT_FOUND     it has no such value
+ * PGSP_ERR_CANT_LOAD_DLL, PGSP_ERR_CANT_LOAD_RESOURCE
+ *                              as PGSP_LogDeviceGetResourceStringBL
+ * PGSP_ERR_FOLDER_NOT_FOUND    the data folder, or for a text the program folder, can't be found
+ */
+int32_t PGSP_LogDeviceGetNdiBL(const wchar_t* LogDevice, const wchar_t* Parameter, wchar_t* Value,
+                               uint32_t* dwValue, int32_t flag);
+
+/*
+ * Sets one of these values. The parameter's name decides where it goes.
+ *
+ *   LogDevice  in  the log device
+ *   Parameter  in  "DescDefault", "DescText": a link to a text, made of "library,number" or "number".
+ *                  "PropSheet", "Diagnosis": a link to a page when Value holds a comma, "library,function".
+ *                  All else is a parameter of the section Ndi, of the type that the catalogue gives, or else
+ *                  "bool" for the values "true" and "false" and "string" for all others
+ *   Value      in  the value, without < and >; of a link split at its first comma
+ *   flag       in  the section of links, which is made where it isn't there
+ *
+ * PGSP_OK                          set, or set already: a value that differs in case alone is the same
+ * PGSP_ERR_INVALID_PARAMETERS      LogDevice or Parameter is null or empty, Value is null, a character isn't
+ *                                  allowed, or the value is malformed for its type
+ * PGSP_ERR_BUFFER_TOO_SHORT        the path has 260 characters or more
+ * PGSP_ERR_FILE_NOT_FOUND          there is no such log device
+ * PGSP_ERR_CANT_LOAD_XML_FILE      its file is malformed or over 10,000,000 bytes
+ * PGSP_ERR_CANT_CREATE_XML_ENGINE  the document engine can't be created; for a link also on a thread without
+ *                                  COM
+ * PGSP_ERR_CANT_SET_VALUE          its file has no section Ndi, or XML can't hold the value
+ * PGSP_ERR_FOLDER_NOT_FOUND        the data folder can't be found
+ *
+ * Notifies "LogDevices", the log device, when the value has changed.
+ */
+int32_t PGSP_LogDeviceSetNdiBL(const wchar_t* LogDevice, const wchar_t* Parameter, const wchar_t* Value,
+                               int32_t flag);
+
+/*
+ * Removes one of these values: a parameter of the section Ndi, or else a link to a page, or else a parameter
+ * of the section of links. Links to texts stay. The result is validated before it takes the file's place.
+ *
+ *   LogDevice  in  the log device
+ *   Parameter  in  the parameter
+ *   flag       in  the section of links
+ *
+ * PGSP_OK                      removed
+ * PGSP_ERR_INVALID_PARAMETERS  LogDevice or Parameter is null or empty
+ * and those of LogDeviceDelValueBL
+ *
+ * Notifies "LogDevices", the log device, when it was removed.
+ */
+int32_t PGSP_LogDeviceDelNdiBL(const wchar_t* LogDevice, const wchar_t* Parameter, int32_t flag);
+
 /* Boards: what the catalogue says of communication boards -------------------------------------------
  *
  * A board is named by the DeviceID of a log device, with or without a leading "*", by its bare name, or by
@@ -687,6 +916,58 @@ int32_t PGSP_ProtocolGetValueBL(const wchar_t* CPType, const wchar_t* Parameter,
  */
 int32_t PGSP_ProtocolGetValueRawBL(const wchar_t* CPType, const wchar_t* ParameterPath,
                                    const wchar_t* Attribute, wchar_t* Value, uint32_t* dwValue);
+
+/* Texts: what a person is shown of an object, in the person's language --------------------------------
+ *
+ * A file's section UserInterface (any flag but 0) or UserInterface64 (flag 0) links names to numbers in a
+ * resource library, which lies in a folder per language below the program folder's "bin", or below the path
+ * that the link tells. A library that isn't there in the language is looked for under "en"; a number that a
+ * library lacks isn't. No code of a library is run.
+ */
+
+/*
+ * Reads a text of a log device, a log name, a board.
+ *
+ *   LogDevice, LogName, Board
+ *              in      the object; a board by its DeviceID, a leading "*" is dropped, or by its file's name
+ *   Parameter  in      the link's name; with a backslash and a decimal number behind it, the text that many
+ *                      numbers further on
+ *   Language   in      a language of two letters in any case; any other text, or null, is the user's own
+ *   Value      out     buffer for the text
+ *   dwValue    in/out  its length in characters
+ *   flag       in      the section of links
+ *
+ * PGSP_OK                      Value and dwValue are set
+ * PGSP_ERR_INVALID_PARAMETERS  there is a text, and an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the text's length; also for a path of 260 characters or more
+ * PGSP_ERR_CANT_LOAD_DLL       neither library can be loaded, or the library's name holds a backslash
+ * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such object, or its file can't be read; so for one without a name
+ * PGSP_ERR_PARAM_NOT_FOUND     it has no such link
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder, or for log devices and log names the data folder, can't be
+ *                              found
+ * PGSP_ERR_CANT_LOAD_RESOURCE  the library has no text of this number
+ */
+int32_t PGSP_LogDeviceGetResourceStringBL(const wchar_t* LogDevice, const wchar_t* Parameter,
+                                          const wchar_t* Language, wchar_t* Value, uint32_t* dwValue,
+                                          int32_t flag);
+int32_t PGSP_LogNameGetResourceStringBL(const wchar_t* LogName, const wchar_t* Parameter,
+                                        const wchar_t* Language, wchar_t* Value, uint32_t* dwValue,
+                                        int32_t flag);
+int32_t PGSP_BoardGetResourceStringBL(const wchar_t* Board, const wchar_t* Parameter, const wchar_t* Language,
+                                      wchar_t* Value, uint32_t* dwValue, int32_t flag);
+
+/*
+ * Reads a text of a file of the catalogue.
+ *
+ *   FolderName    in  "Boards", "Protocols", "DefaultLogDevices", in any case, or another folder beside those
+ *   TemplateName  in  the file's name, in those three also without its prefix
+ *
+ * and all else as above, but that PGSP_ERR_INVALID_PARAMETERS is also the result when one of the two is null
+ * or empty.
+ */
+int32_t PGSP_TemplateGetResourceStringBL(const wchar_t* FolderName, const wchar_t* TemplateName,
+                                         const wchar_t* Parameter, const wchar_t* Language, wchar_t* Value,
+                                         uint32_t* dwValue, int32_t flag);
 
 /* Lists of files ------------------------------------------------------------------------------------ */
 

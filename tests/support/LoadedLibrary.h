@@ -50,6 +50,13 @@ private:
 // The exports with the types that the public header gives them: one line for each.
 struct Exports : LoadedLibrary
 {
+    decltype(&::LogDeviceCopyBL) LogDeviceCopyBL = Find("LogDeviceCopyBL");
+    decltype(&::LogDeviceCreateFromDefBL) LogDeviceCreateFromDefBL = Find("LogDeviceCreateFromDefBL");
+    decltype(&::LogDeviceCreateTempBL) LogDeviceCreateTempBL = Find("LogDeviceCreateTempBL");
+    decltype(&::LogDeviceCreateTempFromDefBL) LogDeviceCreateTempFromDefBL =
+        Find("LogDeviceCreateTempFromDefBL");
+    decltype(&::LogDeviceDelBL) LogDeviceDelBL = Find("LogDeviceDelBL");
+    decltype(&::LogDeviceDelTempBL) LogDeviceDelTempBL = Find("LogDeviceDelTempBL");
     decltype(&::LogDeviceDelValueBL) LogDeviceDelValueBL = Find("LogDeviceDelValueBL");
     decltype(&::LogDeviceExistBL) LogDeviceExistBL = Find("LogDeviceExistBL");
     decltype(&::LogDeviceGetEnumBL) LogDeviceGetEnumBL = Find("LogDeviceGetEnumBL");
@@ -60,6 +67,7 @@ struct Exports : LoadedLibrary
     decltype(&::LogDeviceGetValueExBL) LogDeviceGetValueExBL = Find("LogDeviceGetValueExBL");
     decltype(&::LogDeviceGetValueListBL) LogDeviceGetValueListBL = Find("LogDeviceGetValueListBL");
     decltype(&::LogDeviceSetValueBL) LogDeviceSetValueBL = Find("LogDeviceSetValueBL");
+    decltype(&::LogDeviceUpdateWithTempBL) LogDeviceUpdateWithTempBL = Find("LogDeviceUpdateWithTempBL");
     decltype(&::LogNameCreateBL) LogNameCreateBL = Find("LogNameCreateBL");
     decltype(&::LogNameDelValueBL) LogNameDelValueBL = Find("LogNameDelValueBL");
     decltype(&::LogNameDeleteBL) LogNameDeleteBL = Find("LogNameDeleteBL");
@@ -75,6 +83,8 @@ struct Exports : LoadedLibrary
     decltype(&::PGSP_BoardGetEnumValueBL) PGSP_BoardGetEnumValueBL = Find("PGSP_BoardGetEnumValueBL");
     decltype(&::PGSP_BoardGetNotSupportedBL) PGSP_BoardGetNotSupportedBL =
         Find("PGSP_BoardGetNotSupportedBL");
+    decltype(&::PGSP_BoardGetResourceStringBL) PGSP_BoardGetResourceStringBL =
+        Find("PGSP_BoardGetResourceStringBL");
     decltype(&::PGSP_BoardGetValueBL) PGSP_BoardGetValueBL = Find("PGSP_BoardGetValueBL");
     decltype(&::PGSP_BoardGetValueCollectionBL) PGSP_BoardGetValueCollectionBL =
         Find("PGSP_BoardGetValueCollectionBL");
@@ -83,6 +93,15 @@ struct Exports : LoadedLibrary
     decltype(&::PGSP_GetLogDeviceListBL) PGSP_GetLogDeviceListBL = Find("PGSP_GetLogDeviceListBL");
     decltype(&::PGSP_GetLogDeviceListExBL) PGSP_GetLogDeviceListExBL = Find("PGSP_GetLogDeviceListExBL");
     decltype(&::PGSP_GetLogNameListBL) PGSP_GetLogNameListBL = Find("PGSP_GetLogNameListBL");
+    decltype(&::PGSP_LogDeviceDelNdiBL) PGSP_LogDeviceDelNdiBL = Find("PGSP_LogDeviceDelNdiBL");
+    decltype(&::PGSP_LogDeviceEnumNdiValueBL) PGSP_LogDeviceEnumNdiValueBL =
+        Find("PGSP_LogDeviceEnumNdiValueBL");
+    decltype(&::PGSP_LogDeviceGetNdiBL) PGSP_LogDeviceGetNdiBL = Find("PGSP_LogDeviceGetNdiBL");
+    decltype(&::PGSP_LogDeviceGetResourceStringBL) PGSP_LogDeviceGetResourceStringBL =
+        Find("PGSP_LogDeviceGetResourceStringBL");
+    decltype(&::PGSP_LogDeviceSetNdiBL) PGSP_LogDeviceSetNdiBL = Find("PGSP_LogDeviceSetNdiBL");
+    decltype(&::PGSP_LogNameGetResourceStringBL) PGSP_LogNameGetResourceStringBL =
+        Find("PGSP_LogNameGetResourceStringBL");
     decltype(&::PGSP_ProtocolGetEnumBaudrateBL) PGSP_ProtocolGetEnumBaudrateBL =
         Find("PGSP_ProtocolGetEnumBaudrateBL");
     decltype(&::PGSP_ProtocolGetEnumBusprofilesBL) PGSP_ProtocolGetEnumBusprofilesBL =
@@ -94,6 +113,8 @@ struct Exports : LoadedLibrary
     decltype(&::PGSP_TemplateGetEnumNoPrefixBL) PGSP_TemplateGetEnumNoPrefixBL =
         Find("PGSP_TemplateGetEnumNoPrefixBL");
     decltype(&::PGSP_TemplateGetListBL) PGSP_TemplateGetListBL = Find("PGSP_TemplateGetListBL");
+    decltype(&::PGSP_TemplateGetResourceStringBL) PGSP_TemplateGetResourceStringBL =
+        Find("PGSP_TemplateGetResourceStringBL");
     decltype(&::RegisterNotification) RegisterNotification = Find("RegisterNotification");
     decltype(&::UnRegisterNotification) UnRegisterNotification = Find("UnRegisterNotification");
 };

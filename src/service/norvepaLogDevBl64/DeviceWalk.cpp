@@ -1,18 +1,12 @@
 #include "service/norvepaLogDevBl64/DeviceWalk.h"
 
 #include "frame/Text.h"
+#include "service/norvepaLogDevBl64/TemporaryName.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 #include "store/norvxml.h"
 
 namespace norvepa
 {
-
-namespace
-{
-
-constexpr std::wstring_view TemporaryPrefix = L"PGSP_TEMP_LOG_DEVICE____";
-
-} // namespace
 
 DeviceWalk::DeviceWalk(const ExportFrame& frame, const wchar_t* netType, std::uint32_t capacity)
     : m_frame(frame),
