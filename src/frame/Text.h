@@ -18,6 +18,12 @@ namespace norvepa
 // At most the first `limit` characters of each, as for fields and keys of a fixed width.
 [[nodiscard]] bool EqualNoCase(std::wstring_view left, std::wstring_view right, std::size_t limit) noexcept;
 
+// True when a text holds another anywhere, in this case.
+[[nodiscard]] constexpr bool Holds(std::wstring_view text, std::wstring_view part) noexcept
+{
+    return text.find(part) != std::wstring_view::npos;
+}
+
 // Every letter that has a small form in that form, by the same table. As long as `text`.
 [[nodiscard]] std::wstring ToLower(std::wstring_view text);
 

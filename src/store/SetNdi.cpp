@@ -51,9 +51,8 @@ constexpr std::array<FolderKindRow, 4> FolderKindTable{{
 
 std::wstring_view KindOfPath(std::wstring_view path)
 {
-    const auto row =
-        std::find_if(FolderKindTable.begin(), FolderKindTable.end(),
-                     [=](const FolderKindRow& each) { return path.find(each.folder) != path.npos; });
+    const auto row = std::find_if(FolderKindTable.begin(), FolderKindTable.end(),
+                                  [=](const FolderKindRow& each) { return Holds(path, each.folder); });
     return row == FolderKindTable.end() ? std::wstring_view{} : row->kind;
 }
 

@@ -113,9 +113,9 @@ int32_t LogDeviceCreateTempFromDefBL(const wchar_t* DefLogDeviceName, wchar_t* T
             return frame.FolderNotFound("Can not get Corvane OAM path from Program Files");
         }
 
-        const std::wstring original = TemplateFile(programFolder, name);
         CreateDirectoryW(LogDeviceFolder(dataFolder).c_str(), nullptr);
-        const TemporaryDevice made = CopyToFreeNumber([&](const std::wstring&) { return original; });
+        const TemporaryDevice made =
+            CopyToFreeNumber([&](const std::wstring&) { return TemplateFile(programFolder, name); });
         if (made.name.empty())
         {
             return NoneMade(frame);

@@ -3,6 +3,8 @@
 // What sets a temporary log device apart: its name, and nothing else. Deletions take a name for one by less
 // than what it is made of; enumerations and notifications by all of it, each in a way of its own.
 
+#include "frame/Text.h"
+
 #include <string_view>
 
 namespace norvepa
@@ -14,7 +16,7 @@ inline constexpr wchar_t TemporaryPrefix[] = L"PGSP_TEMP_LOG_DEVICE____";
 // True when a name holds the word anywhere, in this case.
 [[nodiscard]] inline bool IsTemporaryToDelete(std::wstring_view logDevice) noexcept
 {
-    return logDevice.find(L"PGSP_TEMP_LOG_DEVICE") != std::wstring_view::npos;
+    return Holds(logDevice, L"PGSP_TEMP_LOG_DEVICE");
 }
 
 } // namespace norvepa

@@ -23,15 +23,9 @@ constexpr std::array<ProfileRow, 4> ProfileWords{{
     {L"User", L"3"},
 }};
 
-// Anywhere in the name, in exact case.
-bool HoldsPrefix(std::wstring_view name, std::wstring_view prefix)
-{
-    return name.find(prefix) != std::wstring_view::npos;
-}
-
 std::wstring WithPrefix(std::wstring_view name, std::wstring_view prefix)
 {
-    std::wstring whole(HoldsPrefix(name, prefix) ? std::wstring_view{} : prefix);
+    std::wstring whole(Holds(name, prefix) ? std::wstring_view{} : prefix);
     whole += name;
     return whole;
 }
@@ -45,8 +39,7 @@ std::wstring_view WithoutStar(std::wstring_view name)
 
 std::wstring MakeBoardNameTestFirst(std::wstring_view board)
 {
-    return HoldsPrefix(board, BoardPrefix) ? std::wstring(board)
-                                           : WithPrefix(WithoutStar(board), BoardPrefix);
+    return Holds(board, BoardPrefix) ? std::wstring(board) : WithPrefix(WithoutStar(board), BoardPrefix);
 }
 
 std::wstring MakeBoardNameStripFirst(std::wstring_view board)
@@ -66,7 +59,7 @@ std::wstring MakeTemplateName(std::wstring_view name)
 
 Result MakeTemplateNameEscaping(const wchar_t* name, std::wstring& made)
 {
-    if (HoldsPrefix(name, TemplatePrefix))
+    if (Holds(name, TemplatePrefix))
     {
         made = name;
         return PGSP_OK;

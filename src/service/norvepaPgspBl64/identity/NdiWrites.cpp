@@ -42,7 +42,7 @@ LinkValue SplitLink(std::wstring_view value)
 Result WriteTextLink(const ExportFrame& frame, const std::wstring& file, const wchar_t* parameter,
                      const wchar_t* value, int wide)
 {
-    if (std::wstring_view(value).find(L',') == std::wstring_view::npos)
+    if (!Holds(value, L","))
     {
         return NorvXMLSetNdi(file.c_str(), parameter, nullptr, nullptr, nullptr, value, wide);
     }
@@ -82,6 +82,21 @@ Result WritePlain(const ExportFrame& frame, DeviceCatalogue& catalogue, const st
     return NorvXMLSetValue(file.c_str(), NdiSection, parameter, value, type.c_str());
 }
 
+Result WriteByName(const ExportFrame& frame, DeviceCatalogue& catalogue, const wchar_t* parameter,
+                   const wchar_t* value, int wide)
+{
+    const std::wstring file = LogDeviceFile(catalogue.dataFolder(), catalogue.logDevice());
+    if (IsTextLink(parameter))
+    {
+        return WriteTextLink(frame, file, parameter, value, wide);
+    }
+    if (IsPageLink(parameter) && Holds(value, L","))
+    {
+        return WritePageLink(frame, file, parameter, value, wide);
+    }
+    return WritePlain(frame, catalogue, file, parameter, value);
+}
+
 // In the section of plain values, or else the link to a page, or else a plain value beside the links.
 Result DelWhereItIs(const wchar_t* file, const wchar_t* parameter, int wide)
 {
@@ -115,22 +130,8 @@ int32_t PGSP_LogDeviceSetNdiBL(const wchar_t* LogDevice, const wchar_t* Paramete
             return frame.FolderNotFound("Can not get ProgramData Path");
         }
 
-        const std::wstring file = LogDeviceFile(dataFolder, LogDevice);
-        const bool holdsComma = std::wstring_view(Value).find(L',') != std::wstring_view::npos;
-        Result result = PGSP_OK;
-        if (IsTextLink(Parameter))
-        {
-            result = WriteTextLink(frame, file, Parameter, Value, flag);
-        }
-        else if (IsPageLink(Parameter) && holdsComma)
-        {
-            result = WritePageLink(frame, file, Parameter, Value, flag);
-        }
-        else
-        {
-            DeviceCatalogue catalogue(LogDevice, dataFolder);
-            result = WritePlain(frame, catalogue, file, Parameter, Value);
-        }
+        DeviceCatalogue catalogue(LogDevice, dataFolder);
+        const Result result = WriteByName(frame, catalogue, Parameter, Value, flag);
         if (result == PGSP_OK)
         {
             SendNotificationBL(LogDevicesWord, LogDevice, L"5");

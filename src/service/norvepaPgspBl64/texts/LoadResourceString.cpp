@@ -34,7 +34,7 @@ Result ReadLink(const wchar_t* file, std::wstring_view parameter, int wide, Link
 {
     const std::size_t backslash = parameter.find(L'\\');
     const std::wstring name(parameter.substr(0, backslash));
-    const std::wstring offset(backslash == parameter.npos ? L"" : parameter.substr(backslash + 1));
+    const std::wstring offset(backslash == std::wstring_view::npos ? L"" : parameter.substr(backslash + 1));
 
     std::wstring resourceId;
     std::wstring nameSpace;
@@ -77,11 +77,11 @@ Root RootOf(const ExportFrame& frame, const std::wstring& path, const std::wstri
 {
     constexpr const char* byVariables = "Using ExpandEnvironmentStrings = %s";
 
-    if (path.empty() || path.find(L"%commonpath%") != path.npos)
+    if (path.empty() || Holds(path, L"%commonpath%"))
     {
         return {standard, byVariables};
     }
-    if (path.find(L'%') == path.npos)
+    if (!Holds(path, L"%"))
     {
         return {path, "Using AssemblyPath = %s"};
     }
@@ -146,7 +146,7 @@ Result PGSP_LoadResourceString(const wchar_t* XmlFile, const wchar_t* Parameter,
     }
 
     const std::wstring language = LanguageWord(Language);
-    if (link.assembly.find(L'\\') != link.assembly.npos)
+    if (Holds(link.assembly, L"\\"))
     {
         NORV_TRACE(frame, TraceWarning, "Backslash in AssemblyName is not allowed: AssemblyName=%s",
                    TraceToAnsi(link.assembly.c_str()));
