@@ -14,11 +14,6 @@ using testing::Not;
 
 class NorvctlDevice : public Norvctl
 {
-protected:
-    [[nodiscard]] std::wstring Path(const std::wstring& fileName) const
-    {
-        return folder / (L"data-root\\data\\LogDevices\\" + fileName + L".xml");
-    }
 };
 
 TEST_F(NorvctlDevice, ListTellsThemWithTypeBoardAndUnitAndLeavesHiddenOnesOut)
@@ -90,8 +85,7 @@ TEST_F(NorvctlDevice, SetStoresAnAllowedValue)
 
 TEST_F(NorvctlDevice, SetIsToldToAWatchInAnotherProcess)
 {
-    RunningNorvctl watch({L"watch", L"LogDevices", L"Kesselhaus", L"--count", L"1", L"--timeout", L"60"});
-    ASSERT_THAT(watch.ReadLine(), HasSubstr("watching")); // from now on it hears every change
+    Watch watch({L"watch", L"LogDevices", L"Kesselhaus", L"--count", L"1", L"--timeout", L"60"});
 
     const std::string output = OutputOfNorvctl({L"device", L"set", L"Kesselhaus", L"ttr", L"60001"});
 
@@ -120,14 +114,14 @@ class NorvctlRefusal : public NorvctlDevice, public testing::WithParamInterface<
 TEST_P(NorvctlRefusal, TellsTheLimitsAndLeavesTheFileAsItWas)
 {
     const Refused& refused = GetParam();
-    const std::string before = ReadBytes(Path(refused.device));
+    const std::string before = ReadBytes(LogDevicePath(refused.device));
 
     const ProgramEnd end = RunNorvctl({L"device", L"set", refused.device, refused.parameter, refused.value});
 
     EXPECT_EQ(end.exitCode, 1U);
     EXPECT_EQ(end.output, "");
     EXPECT_THAT(end.error, HasSubstr(refused.words));
-    EXPECT_EQ(ReadBytes(Path(refused.device)), before);
+    EXPECT_EQ(ReadBytes(LogDevicePath(refused.device)), before);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -40,26 +40,51 @@ TEST_P(NorvctlMisuse, EndsWithOneAndSaysWhyOnStandardError)
 
 INSTANTIATE_TEST_SUITE_P(
     CommandLines, NorvctlMisuse,
-    testing::Values(Misuse{"Nothing", {}, "A subcommand is required"},
-                    Misuse{"UnknownNoun", {L"nix"}, "subcommand is required"},
-                    Misuse{"NounAlone", {L"name"}, "A subcommand is required"},
-                    Misuse{"UnknownVerb", {L"name", L"nix"}, "subcommand is required"},
-                    Misuse{"TraceAlone", {L"trace"}, "A subcommand is required"},
-                    Misuse{"ShowWithoutName", {L"name", L"show"}, "NAME is required"},
-                    Misuse{"CreateWithoutName", {L"name", L"create"}, "NAME is required"},
-                    Misuse{"DeleteWithoutName", {L"name", L"delete"}, "NAME is required"},
-                    Misuse{"GetWithoutName", {L"name", L"get"}, "NAME is required"},
-                    Misuse{"GetWithTooMuch", {L"name", L"get", L"a", L"b", L"c"}, "c"},
-                    Misuse{"SetWithoutParameter", {L"name", L"set", L"a"}, "PARAMETER is required"},
-                    Misuse{"SetWithoutValue", {L"name", L"set", L"a", L"b"}, "VALUE is required"},
-                    Misuse{"UnsetWithoutParameter", {L"name", L"unset", L"a"}, "PARAMETER is required"},
-                    Misuse{"WatchWithoutFolder", {L"watch"}, "FOLDER is required"},
-                    Misuse{"WatchOfUnknownFolder", {L"watch", L"Foo"}, "Foo not in"},
-                    Misuse{"WatchWithoutNumber", {L"watch", L"meta", L"--timeout", L"x"}, "--timeout"},
-                    Misuse{"WatchForTooLong", {L"watch", L"meta", L"--timeout", L"1e12"}, "not in range"},
-                    Misuse{"WatchForNegativeTime", {L"watch", L"meta", L"--timeout", L"-1"}, "not in range"},
-                    Misuse{"TraceInUnknownFormat", {L"trace", L"on", L"--format", L"LOUD"}, "LOUD not in"},
-                    Misuse{"TraceToUnknownOutput", {L"trace", L"on", L"--output", L"PIPE"}, "PIPE not in"}),
+    testing::Values(
+        Misuse{"Nothing", {}, "A subcommand is required"},
+        Misuse{"UnknownNoun", {L"nix"}, "subcommand is required"},
+        Misuse{"NounAlone", {L"name"}, "A subcommand is required"},
+        Misuse{"UnknownVerb", {L"name", L"nix"}, "subcommand is required"},
+        Misuse{"TraceAlone", {L"trace"}, "A subcommand is required"},
+        Misuse{"ShowWithoutName", {L"name", L"show"}, "NAME is required"},
+        Misuse{"CreateWithoutName", {L"name", L"create"}, "NAME is required"},
+        Misuse{"DeleteWithoutName", {L"name", L"delete"}, "NAME is required"},
+        Misuse{"GetWithoutName", {L"name", L"get"}, "NAME is required"},
+        Misuse{"GetWithTooMuch", {L"name", L"get", L"a", L"b", L"c"}, "c"},
+        Misuse{"SetWithoutParameter", {L"name", L"set", L"a"}, "PARAMETER is required"},
+        Misuse{"SetWithoutValue", {L"name", L"set", L"a", L"b"}, "VALUE is required"},
+        Misuse{"UnsetWithoutParameter", {L"name", L"unset", L"a"}, "PARAMETER is required"},
+        Misuse{"CreateDeviceFromNothing", {L"device", L"create", L"a"}, "--from is required"},
+        Misuse{"CopyDeviceToNothing", {L"device", L"copy", L"a"}, "TO is required"},
+        Misuse{"EditAlone", {L"device", L"edit"}, "A subcommand is required"},
+        Misuse{"EditNothing", {L"device", L"edit", L"begin"}, "DEVICE"},
+        Misuse{"EditTwo", {L"device", L"edit", L"begin", L"a", L"--from", L"b"}, "DEVICE"},
+        Misuse{"ApplyToNothing",
+               {L"device", L"edit", L"apply", L"PGSP_TEMP_LOG_DEVICE____000"},
+               "DEVICE is required"},
+        Misuse{"ApplyWhatIsNotTemporary",
+               {L"device", L"edit", L"apply", L"Labor", L"Labor"},
+               "this is not a temporary log device"},
+        Misuse{"ApplyATemporaryToItself",
+               {L"device", L"edit", L"apply", L"PGSP_TEMP_LOG_DEVICE____000", L"pgsp_temp_log_device____000"},
+               "this is not a log device that can be replaced"},
+        Misuse{"NdiAlone", {L"device", L"ndi"}, "A subcommand is required"},
+        Misuse{"NdiSetWithoutValue", {L"device", L"ndi", L"set", L"a", L"b"}, "VALUE is required"},
+        Misuse{"TextOfNothing", {L"device", L"text", L"a"}, "TEXT is required"},
+        Misuse{"TextInALongLanguage",
+               {L"name", L"text", L"a", L"b", L"--language", L"deu"},
+               "a language has two letters"},
+        Misuse{"TextInDots",
+               {L"board", L"text", L"a", L"b", L"--language", L".."},
+               "a language has two letters"},
+        Misuse{"TemplateAlone", {L"template"}, "A subcommand is required"},
+        Misuse{"WatchWithoutFolder", {L"watch"}, "FOLDER is required"},
+        Misuse{"WatchOfUnknownFolder", {L"watch", L"Foo"}, "Foo not in"},
+        Misuse{"WatchWithoutNumber", {L"watch", L"meta", L"--timeout", L"x"}, "--timeout"},
+        Misuse{"WatchForTooLong", {L"watch", L"meta", L"--timeout", L"1e12"}, "not in range"},
+        Misuse{"WatchForNegativeTime", {L"watch", L"meta", L"--timeout", L"-1"}, "not in range"},
+        Misuse{"TraceInUnknownFormat", {L"trace", L"on", L"--format", L"LOUD"}, "LOUD not in"},
+        Misuse{"TraceToUnknownOutput", {L"trace", L"on", L"--output", L"PIPE"}, "PIPE not in"}),
     [](const auto& misuse) { return misuse.param.name; });
 
 TEST(NorvctlVersion, NamesTheLibraryAndItsVersion)
@@ -82,12 +107,15 @@ TEST(NorvctlHelp, NamesEveryVerb)
 {
     const std::string nouns = OutputOfNorvctl({L"--help"});
     const std::string names = OutputOfNorvctl({L"name", L"--help"});
+    const std::string devices = OutputOfNorvctl({L"device", L"--help"});
     const std::string traces = OutputOfNorvctl({L"trace", L"--help"});
 
-    EXPECT_THAT(nouns,
-                AllOf(HasSubstr("name"), HasSubstr("watch"), HasSubstr("trace"), HasSubstr("version")));
+    EXPECT_THAT(nouns, AllOf(HasSubstr("name"), HasSubstr("template"), HasSubstr("watch"), HasSubstr("trace"),
+                             HasSubstr("version")));
     EXPECT_THAT(names, AllOf(HasSubstr("list"), HasSubstr("show"), HasSubstr("create"), HasSubstr("delete"),
                              HasSubstr("get"), HasSubstr("set"), HasSubstr("unset")));
+    EXPECT_THAT(devices, AllOf(HasSubstr("create"), HasSubstr("copy"), HasSubstr("delete"), HasSubstr("edit"),
+                               HasSubstr("ndi"), HasSubstr("text")));
     EXPECT_THAT(traces, AllOf(HasSubstr("status"), HasSubstr("on"), HasSubstr("off")));
 }
 

@@ -16,15 +16,6 @@ using testing::MatchesRegex;
 const std::wstring LongEnough = L"60"; // seconds, for changes that come
 const std::wstring Brief = L"3";       // for changes that don't
 
-// A watch, from the moment at which it hears every change.
-class Watch : public RunningNorvctl
-{
-public:
-    explicit Watch(const Words& arguments) : RunningNorvctl(arguments), firstLine(ReadLine()) {}
-
-    const std::string firstLine;
-};
-
 class NorvctlWatch : public Norvctl
 {
 };

@@ -40,6 +40,15 @@ inline std::string OutputOfNorvctl(const Words& arguments)
     return end.output;
 }
 
+// norvctl watch, from the moment at which it hears every change.
+class Watch : public RunningNorvctl
+{
+public:
+    explicit Watch(const Words& arguments) : RunningNorvctl(arguments), firstLine(ReadLine()) {}
+
+    const std::string firstLine;
+};
+
 class Norvctl : public testing::Test
 {
 protected:
@@ -56,6 +65,15 @@ protected:
     {
         return folder / (L"data-root\\data\\LogNames\\" + fileName + L".xml");
     }
+
+    // The same of a log device.
+    [[nodiscard]] std::wstring LogDevicePath(const std::wstring& fileName) const
+    {
+        return folder / (L"data-root\\data\\LogDevices\\" + fileName + L".xml");
+    }
+
+    // The libraries that the links to texts name, German and English.
+    void LayOutTexts() const { CopyTree(FromUtf8(NORV_SAMPLE_RESOURCES), folder / L"program-root\\bin"); }
 
     TemporaryFolder folder;
     MachineKey locations{LocationsKey};

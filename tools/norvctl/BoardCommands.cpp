@@ -92,10 +92,7 @@ void Get(const Report& report, const Arguments& arguments)
     const ReadResult read = ReadText([&](wchar_t* value, uint32_t* length) {
         return PGSP_BoardGetValueRawBL(board.c_str(), path.c_str(), parameter.c_str(), value, length);
     });
-    if (read.result != PGSP_OK)
-    {
-        throw Failure(fmt::format("{}, {}", arguments.board, arguments.parameter), read.result);
-    }
+    Require(read.result, fmt::format("{}, {}", arguments.board, arguments.parameter));
     report.Answer(read.value, {{"board", arguments.board},
                                {"path", arguments.path},
                                {"parameter", arguments.parameter},
@@ -127,6 +124,7 @@ void AddBoardCommands(CLI::App& app, const Report& report)
     get->add_option("PARAMETER", arguments->parameter, "the parameter, or a word of a constraint")
         ->required();
     get->add_option("--path", arguments->path, "where it stands: a section, or Constraints\\PARAMETER");
+    AddBoardTextCommand(*board, report);
 }
 
 } // namespace norvctl

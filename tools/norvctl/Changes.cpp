@@ -27,4 +27,13 @@ void MakeChange(const std::wstring& folder, const std::wstring& file, const std:
     announcement.Wait();
 }
 
+void MakeChangeOfSteps(const std::wstring& folder, const std::wstring& file,
+                       const std::function<void()>& change)
+{
+    const Announcement announcement(folder, file);
+    change();
+    announcement.Wait();
+    announcement.WaitForOthers();
+}
+
 } // namespace norvctl

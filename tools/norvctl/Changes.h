@@ -19,4 +19,8 @@ namespace norvctl
 // The same for a change that always is one.
 void MakeChange(const std::wstring& folder, const std::wstring& file, const std::function<void()>& change);
 
+// The same for a change that may be announced step by step.
+void MakeChangeOfSteps(const std::wstring& folder, const std::wstring& file,
+                       const std::function<void()>& change);
+
 } // namespace norvctl

@@ -15,9 +15,19 @@ void AddNameCommands(CLI::App& app, const Report& report);   // name list, show,
                                                              // unset, link, unlink
 void AddBoardCommands(CLI::App& app, const Report& report);  // board list, show, values, get
 void AddProtocolCommands(CLI::App& app,
-                         const Report& report);              // protocol list, show, profiles, baudrates, get
-void AddWatchCommand(CLI::App& app, const Report& report);   // watch
-void AddTraceCommands(CLI::App& app, const Report& report);  // trace status, on, off
-void AddVersionCommand(CLI::App& app, const Report& report); // version
+                         const Report& report); // protocol list, show, profiles, baudrates, get
+void AddTemplateCommands(CLI::App& app, const Report& report); // template list
+void AddWatchCommand(CLI::App& app, const Report& report);     // watch
+void AddTraceCommands(CLI::App& app, const Report& report);    // trace status, on, off
+void AddVersionCommand(CLI::App& app, const Report& report);   // version
+
+// Verbs of a noun that have a file of their own.
+void AddDeviceLifeCommands(CLI::App& device, const Report& report); // device create, copy, delete
+void AddDeviceEditCommands(CLI::App& device, const Report& report); // device edit begin, list, apply, discard
+void AddNdiCommands(CLI::App& device, const Report& report);        // device ndi list, get, set, unset
+void AddDeviceTextCommand(CLI::App& device, const Report& report);  // device text, in TextCommands.cpp as are
+void AddNameTextCommand(CLI::App& name, const Report& report);      // name text
+void AddBoardTextCommand(CLI::App& board, const Report& report);    // board text
+void AddTemplateTextCommand(CLI::App& noun, const Report& report);  // template text
 
 } // namespace norvctl

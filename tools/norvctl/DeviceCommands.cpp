@@ -1,13 +1,12 @@
 #include "Changes.h"
 #include "Commands.h"
+#include "Device.h"
 #include "Reads.h"
 #include "Refusal.h"
 #include "Result.h"
 #include "Text.h"
 #include "norvepa.h"
 
-#include <algorithm>
-#include <cwctype>
 #include <fmt/format.h>
 #include <memory>
 
@@ -16,8 +15,6 @@ namespace norvctl
 
 namespace
 {
-
-constexpr wchar_t FolderWord[] = L"LogDevices";
 
 struct Arguments
 {
@@ -29,20 +26,9 @@ struct Arguments
     std::string boardId;
 };
 
-std::string Subject(const Arguments& arguments)
+std::string SubjectOf(const Arguments& arguments)
 {
-    return arguments.parameter.empty() ? arguments.device
-                                       : fmt::format("{}, {}", arguments.device, arguments.parameter);
-}
-
-// The file that a change of this name changes: a subdevice stands in that of its device.
-std::wstring FileOf(const std::string& name)
-{
-    const std::wstring device = ToWide(name);
-    std::wstring lower = device;
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](wchar_t character) { return static_cast<wchar_t>(std::towlower(character)); });
-    return device.substr(0, lower.find(L"\\subdevices\\"));
+    return DeviceSubject(arguments.device, arguments.parameter);
 }
 
 ReadResult Read(const std::string& device, const std::string& parameter)
@@ -117,19 +103,10 @@ void Get(const Report& report, const Arguments& arguments)
                                       return LogDeviceGetValueExBL(name.c_str(), section.c_str(),
                                                                    parameter.c_str(), value, length);
                                   });
-    if (read.result != PGSP_OK)
-    {
-        throw Failure(Subject(arguments), read.result);
-    }
+    Require(read.result, SubjectOf(arguments));
     report.Answer(read.value, {{"device", arguments.device},
                                {"parameter", arguments.parameter.empty() ? "default" : arguments.parameter},
                                {"value", read.value}});
-}
-
-void Done(const Report& report, const Arguments& arguments, const char* what)
-{
-    report.Answer(fmt::format("{} {}", what, Subject(arguments)),
-                  {{"done", what}, {"device", arguments.device}, {"parameter", arguments.parameter}});
 }
 
 void SetOrExplain(const Arguments& arguments)
@@ -138,34 +115,24 @@ void SetOrExplain(const Arguments& arguments)
     const std::wstring parameter = ToWide(arguments.parameter);
     const int32_t result =
         LogDeviceSetValueBL(device.c_str(), parameter.c_str(), ToWide(arguments.value).c_str());
-    if (result == PGSP_OK)
-    {
-        return;
-    }
-    const std::string allowed = AllowedValues(device, parameter, result);
-    throw allowed.empty() ? Failure(Subject(arguments), result)
-                          : Failure(Subject(arguments), result, allowed);
+    Require(result, SubjectOf(arguments), AllowedValues(device, parameter, result));
 }
 
 void Set(const Report& report, const Arguments& arguments)
 {
     const bool changed = MakesDifference(
-        FolderWord, FileOf(arguments.device), [&] { return Read(arguments.device, arguments.parameter); },
-        [&] { SetOrExplain(arguments); });
-    Done(report, arguments, changed ? "set" : "unchanged");
+        LogDevicesWord, FileOfDevice(arguments.device),
+        [&] { return Read(arguments.device, arguments.parameter); }, [&] { SetOrExplain(arguments); });
+    AnswerDone(report, changed ? "set" : "unchanged", arguments.device, arguments.parameter);
 }
 
 void Unset(const Report& report, const Arguments& arguments)
 {
-    MakeChange(FolderWord, FileOf(arguments.device), [&] {
-        const int32_t result =
-            LogDeviceDelValueBL(ToWide(arguments.device).c_str(), ToWide(arguments.parameter).c_str());
-        if (result != PGSP_OK)
-        {
-            throw Failure(Subject(arguments), result);
-        }
+    MakeChange(LogDevicesWord, FileOfDevice(arguments.device), [&] {
+        Require(LogDeviceDelValueBL(ToWide(arguments.device).c_str(), ToWide(arguments.parameter).c_str()),
+                SubjectOf(arguments));
     });
-    Done(report, arguments, "unset");
+    AnswerDone(report, "unset", arguments.device, arguments.parameter);
 }
 
 } // namespace
@@ -200,6 +167,11 @@ void AddDeviceCommands(CLI::App& app, const Report& report)
     addVerb("unset", "remove one value", &Unset)
         ->add_option("PARAMETER", arguments->parameter, "the parameter")
         ->required();
+
+    AddDeviceLifeCommands(*device, report);
+    AddDeviceEditCommands(*device, report);
+    AddNdiCommands(*device, report);
+    AddDeviceTextCommand(*device, report);
 }
 
 } // namespace norvctl

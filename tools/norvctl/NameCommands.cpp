@@ -40,14 +40,6 @@ ReadResult Read(const Arguments& arguments)
     });
 }
 
-void Require(int32_t result, const Arguments& arguments)
-{
-    if (result != PGSP_OK)
-    {
-        throw Failure(Subject(arguments), result);
-    }
-}
-
 std::vector<std::string> AllNames()
 {
     return EnumerateTexts("the log names", [](uint32_t index, wchar_t* name, uint32_t* length) {
@@ -73,7 +65,7 @@ void List(const Report& report)
 void Show(const Report& report, const Arguments& arguments)
 {
     const std::wstring name = ToWide(arguments.name);
-    Require(LogNameExistBL(name.c_str(), 0), arguments);
+    Require(LogNameExistBL(name.c_str(), 0), Subject(arguments));
     const auto values =
         EnumeratePairs(arguments.name, [&](uint32_t index, wchar_t* parameter, uint32_t* parameterLength,
                                            wchar_t* value, uint32_t* valueLength) {
@@ -90,7 +82,7 @@ void Show(const Report& report, const Arguments& arguments)
 void Get(const Report& report, const Arguments& arguments)
 {
     const ReadResult read = Read(arguments);
-    Require(read.result, arguments);
+    Require(read.result, Subject(arguments));
     report.Answer(read.value, {{"name", arguments.name},
                                {"parameter", arguments.parameter.empty() ? "(default)" : arguments.parameter},
                                {"value", read.value}});
@@ -106,7 +98,7 @@ void Done(const Report& report, const Arguments& arguments, const char* what)
 void Change(const Report& report, const Arguments& arguments, const std::function<int32_t()>& change,
             const char* done)
 {
-    MakeChange(FolderWord, ToWide(arguments.name), [&] { Require(change(), arguments); });
+    MakeChange(FolderWord, ToWide(arguments.name), [&] { Require(change(), Subject(arguments)); });
     Done(report, arguments, done);
 }
 
@@ -136,7 +128,7 @@ void ChangeValue(const Report& report, const Arguments& arguments, const std::fu
 {
     const bool changed = MakesDifference(
         FolderWord, ToWide(arguments.name), [&] { return Read(arguments); },
-        [&] { Require(change(), arguments); });
+        [&] { Require(change(), Subject(arguments)); });
     Done(report, arguments, changed ? done : "unchanged");
 }
 
@@ -210,6 +202,7 @@ void AddNameCommands(CLI::App& app, const Report& report)
         .add_option("DEVICE", arguments->value, "the log device")
         ->required();
     AddVerb(*name, report, "unlink", "take its link away", arguments, &Unlink);
+    AddNameTextCommand(*name, report);
 }
 
 } // namespace norvctl

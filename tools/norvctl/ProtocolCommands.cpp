@@ -117,11 +117,7 @@ void Get(const Report& report, const Arguments& arguments)
                                        wide.subParameter.c_str(), wide.subValue.c_str(), wide.word.c_str(),
                                        text, length);
     });
-    if (read.result != PGSP_OK)
-    {
-        throw Failure(fmt::format("{}, {}, {}", arguments.protocol, arguments.parameter, arguments.word),
-                      read.result);
-    }
+    Require(read.result, fmt::format("{}, {}, {}", arguments.protocol, arguments.parameter, arguments.word));
     report.Answer(read.value, {{"protocol", arguments.protocol},
                                {"parameter", arguments.parameter},
                                {"word", arguments.word},

@@ -16,9 +16,10 @@ namespace
 constexpr std::size_t FirstCapacity = 1024; // characters; lists need 260 at least
 
 // Calls with a buffer that grows for as long as the answer doesn't fit; its final size is the answer's.
-int32_t CallWithRoom(const std::function<int32_t(wchar_t*, uint32_t*)>& call, std::vector<wchar_t>& buffer)
+int32_t CallWithRoom(const std::function<int32_t(wchar_t*, uint32_t*)>& call, std::vector<wchar_t>& buffer,
+                     std::size_t room)
 {
-    buffer.resize(FirstCapacity);
+    buffer.resize(room);
     for (;;)
     {
         auto length = static_cast<uint32_t>(buffer.size());
@@ -42,8 +43,13 @@ bool IsEnd(int32_t result)
 
 ReadResult ReadText(const std::function<int32_t(wchar_t*, uint32_t*)>& read)
 {
+    return ReadTextWithRoom(FirstCapacity, read);
+}
+
+ReadResult ReadTextWithRoom(std::size_t room, const std::function<int32_t(wchar_t*, uint32_t*)>& read)
+{
     std::vector<wchar_t> buffer;
-    const int32_t result = CallWithRoom(read, buffer);
+    const int32_t result = CallWithRoom(read, buffer, room);
     return {result, ToUtf8({buffer.data(), buffer.size()})};
 }
 
@@ -51,11 +57,8 @@ std::vector<std::string> ReadTexts(const std::string& subject,
                                    const std::function<int32_t(wchar_t*, uint32_t*)>& read)
 {
     std::vector<wchar_t> buffer;
-    const int32_t result = CallWithRoom(read, buffer);
-    if (result != PGSP_OK)
-    {
-        throw Failure(subject, result);
-    }
+    const int32_t result = CallWithRoom(read, buffer, FirstCapacity);
+    Require(result, subject);
     std::vector<std::string> texts;
     const auto end = buffer.empty() ? buffer.end() : buffer.end() - 1; // the terminator behind the last
     for (auto at = buffer.begin(); at < end;)
@@ -79,10 +82,7 @@ std::vector<std::string> EnumerateTexts(const std::string& subject,
         {
             return texts;
         }
-        if (item.result != PGSP_OK)
-        {
-            throw Failure(subject, item.result);
-        }
+        Require(item.result, subject);
         texts.push_back(item.value);
     }
 }
@@ -108,10 +108,7 @@ std::vector<NameAndValue> EnumeratePairs(const std::string& subject, const ReadP
             value.resize(std::max<std::size_t>(value.size(), valueLength + 1));
             continue;
         }
-        if (result != PGSP_OK)
-        {
-            throw Failure(subject, result);
-        }
+        Require(result, subject);
         pairs.push_back({ToUtf8({name.data(), nameLength}), ToUtf8({value.data(), valueLength})});
         ++index;
     }

@@ -28,6 +28,12 @@ struct NameAndValue
 // Asks again with a larger buffer when the text turns out to be longer.
 [[nodiscard]] ReadResult ReadText(const std::function<int32_t(wchar_t* text, uint32_t* length)>& read);
 
+// The same with a buffer that has room for so many characters at once.
+[[nodiscard]] ReadResult ReadTextWithRoom(
+    std::size_t room, const std::function<int32_t(wchar_t* text, uint32_t* length)>& read);
+
+constexpr std::size_t LongestValue = 10'000'000; // no file of the store is longer
+
 // A list of texts; a failure is thrown with what was asked for.
 [[nodiscard]] std::vector<std::string> ReadTexts(
     const std::string& subject, const std::function<int32_t(wchar_t* list, uint32_t* length)>& read);

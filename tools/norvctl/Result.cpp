@@ -85,4 +85,12 @@ Failure::Failure(const std::string& subject, int32_t result, const std::string& 
 {
 }
 
+void Require(int32_t result, const std::string& subject, const std::string& more)
+{
+    if (result != PGSP_OK)
+    {
+        throw more.empty() ? Failure(subject, result) : Failure(subject, result, more);
+    }
+}
+
 } // namespace norvctl

@@ -20,4 +20,7 @@ public:
     Failure(const std::string& subject, int32_t result, const std::string& more); // "...: allowed are ..."
 };
 
+// Throws unless it is PGSP_OK. `more` may be empty.
+void Require(int32_t result, const std::string& subject, const std::string& more = {});
+
 } // namespace norvctl

@@ -71,11 +71,7 @@ void Watch(const Report& report, const Arguments& arguments)
     const OwnedEvent owned = TakeEvent(arguments);
     const std::wstring folder = ToWide(arguments.folder);
     const std::wstring file = ToWide(arguments.file);
-    const int32_t result = RegisterNotification(folder.c_str(), file.c_str(), owned.name.c_str());
-    if (result != PGSP_OK)
-    {
-        throw Failure(arguments.folder, result);
-    }
+    Require(RegisterNotification(folder.c_str(), file.c_str(), owned.name.c_str()), arguments.folder);
 
     Print(report, arguments, "watching");
     const auto milliseconds = arguments.timeout > 0 ? static_cast<DWORD>(arguments.timeout * 1000) : INFINITE;

@@ -1,5 +1,6 @@
 #include "WatchEvents.h"
 
+#include "Device.h"
 #include "norvepa.h"
 
 #include <cstdint>
@@ -14,6 +15,7 @@ namespace
 
 constexpr int WatchesAtOnce = 8;
 constexpr DWORD AnnouncementTimeout = 2000; // milliseconds
+constexpr DWORD QuietTime = 200;            // milliseconds
 
 // Names that differ in case alone are the same file, in all alphabets.
 std::wstring InUpperCase(std::wstring name)
@@ -57,6 +59,10 @@ std::vector<std::wstring> WatchEventNames(const std::wstring& folder, const std:
 
 Announcement::Announcement(const std::wstring& folder, const std::wstring& file) : m_folder(folder)
 {
+    if (file.find(TemporaryPrefix) != std::wstring::npos)
+    {
+        return;
+    }
     RegisterWatches({}, WatchEventNames(folder, {}));
     RegisterWatches(file, WatchEventNames(folder, file));
     const std::wstring own = fmt::format(L"norvctl.announced.{}", GetCurrentProcessId());
@@ -74,7 +80,14 @@ Announcement::~Announcement()
 
 bool Announcement::Wait() const
 {
-    return WaitForSingleObject(m_announced.get(), AnnouncementTimeout) == WAIT_OBJECT_0;
+    return !m_announced || WaitForSingleObject(m_announced.get(), AnnouncementTimeout) == WAIT_OBJECT_0;
+}
+
+void Announcement::WaitForOthers() const
+{
+    while (m_announced && WaitForSingleObject(m_announced.get(), QuietTime) == WAIT_OBJECT_0)
+    {
+    }
 }
 
 // Without those that no watch has: the library would warn of each in its trace.

@@ -35,9 +35,13 @@ public:
     Announcement& operator=(const Announcement&) = delete;
     ~Announcement();
 
-    // After a change: returns when the watches have been told. False when two seconds have passed, as they
-    // do when nothing has changed.
+    // After a change: returns when the watches have been told, and at once for a temporary log device, of
+    // which nobody is. False when two seconds have passed, as they do when nothing has changed.
     bool Wait() const;
+
+    // Behind Wait: returns when no other announcement has come for a while. How many there are isn't told,
+    // and those that come together can't be told apart.
+    void WaitForOthers() const;
 
 private:
     void RegisterWatches(const std::wstring& file, const std::vector<std::wstring>& eventNames);
@@ -51,7 +55,7 @@ private:
 
     std::wstring m_folder;
     std::vector<Registration> m_registrations;
-    Event m_announced; // registered last: set when all others have been
+    Event m_announced; // registered last: set when all others have been; null when nobody is told
 };
 
 } // namespace norvctl

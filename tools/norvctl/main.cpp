@@ -25,6 +25,7 @@ int main() // NOLINT(bugprone-exception-escape) what CLI11 throws ahead of the p
     norvctl::AddNameCommands(app, report);
     norvctl::AddBoardCommands(app, report);
     norvctl::AddProtocolCommands(app, report);
+    norvctl::AddTemplateCommands(app, report);
     norvctl::AddWatchCommand(app, report);
     norvctl::AddTraceCommands(app, report);
     norvctl::AddVersionCommand(app, report);

@@ -1,0 +1,39 @@
+#include "Device.h"
+
+#include "Text.h"
+#include "norvepa.h"
+
+#include <algorithm>
+#include <cwctype>
+#include <fmt/format.h>
+
+namespace norvctl
+{
+
+std::string DeviceSubject(const std::string& device, const std::string& parameter)
+{
+    return parameter.empty() ? device : fmt::format("{}, {}", device, parameter);
+}
+
+std::wstring FileOfDevice(const std::string& device)
+{
+    const std::wstring name = ToWide(device);
+    std::wstring lower = name;
+    std::transform(lower.begin(), lower.end(), lower.begin(),
+                   [](wchar_t character) { return static_cast<wchar_t>(std::towlower(character)); });
+    return name.substr(0, lower.find(L"\\subdevices\\"));
+}
+
+bool IsDeviceThere(const std::string& device)
+{
+    return LogDeviceExistBL(ToWide(device).c_str(), 0) == PGSP_OK;
+}
+
+void AnswerDone(const Report& report, const char* what, const std::string& device,
+                const std::string& parameter)
+{
+    report.Answer(fmt::format("{} {}", what, DeviceSubject(device, parameter)),
+                  {{"done", what}, {"device", device}, {"parameter", parameter}});
+}
+
+} // namespace norvctl

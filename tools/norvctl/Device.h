@@ -1,0 +1,31 @@
+#pragma once
+
+// What the verbs of log devices share.
+
+#include "Report.h"
+
+#include <string>
+#include <string_view>
+
+namespace norvctl
+{
+
+inline constexpr wchar_t LogDevicesWord[] = L"LogDevices"; // the folder word of their changes
+
+// What the name of a temporary log device begins with, three digits behind it. Changes of a name that holds it
+// are announced to nobody.
+inline constexpr std::wstring_view TemporaryPrefix = L"PGSP_TEMP_LOG_DEVICE____";
+
+// A log device, or one of its parameters, for a message.
+[[nodiscard]] std::string DeviceSubject(const std::string& device, const std::string& parameter);
+
+// The file that a change of this name changes: a subdevice stands in that of its device.
+[[nodiscard]] std::wstring FileOfDevice(const std::string& device);
+
+[[nodiscard]] bool IsDeviceThere(const std::string& device);
+
+// What has been done to a value of a log device.
+void AnswerDone(const Report& report, const char* what, const std::string& device,
+                const std::string& parameter);
+
+} // namespace norvctl
