@@ -50,11 +50,6 @@ XmlContent BusProfiles()
 
 } // namespace
 
-std::wstring Failed(std::int32_t result)
-{
-    return L"(result " + std::to_wstring(result) + L")";
-}
-
 CatalogueScene::~CatalogueScene()
 {
     library.NorvepaBl64x_deinit(); // a folder that is watched can't be removed

@@ -2,6 +2,7 @@
 
 // Boards and protocols of a test's own, the library loaded on them, and its answers in one word each.
 
+#include "support/Answers.h"
 #include "support/ListBuffer.h"
 #include "support/LoadedLibrary.h"
 #include "support/OutputBuffer.h"
@@ -18,17 +19,6 @@ namespace norvepa::test
 inline const std::wstring BoardPrefix = L"Automation-OnlineAccess-BT-";
 inline const std::wstring ProtocolPrefix = L"Automation-OnlineAccess-PT-";
 inline const std::wstring TemplatePrefix = L"Automation-OnlineAccess-LDT-";
-
-// What is answered into a buffer with room enough: the text, or "(result N)" for a call that fails and has
-// left buffer and length alone. A call takes the buffer and the length.
-template <typename Call>
-[[nodiscard]] std::wstring TextOf(const Call& call);
-
-// What is answered into two buffers with room enough: "name=value", or as above. A call takes two of each.
-template <typename Call>
-[[nodiscard]] std::wstring PairOf(const Call& call);
-
-[[nodiscard]] std::wstring Failed(std::int32_t result);
 
 class CatalogueScene : public testing::Test
 {
@@ -94,36 +84,5 @@ protected:
 //             and 19200 of its own, which give a `slot` of 9 and 19 and, the first one, `(default)`
 //   baudrate  "187500" and "1500000", which give a `gap` of 1 and 2
 [[nodiscard]] XmlContent BusProtocol();
-
-template <typename Call>
-std::wstring TextOf(const Call& call)
-{
-    constexpr std::uint32_t capacity = 300;
-    OutputBuffer buffer(capacity);
-    const std::int32_t result = call(buffer.data(), &buffer.length);
-    if (result == PGSP_OK)
-    {
-        EXPECT_EQ(buffer.length, buffer.text().size());
-        return buffer.text();
-    }
-    EXPECT_TRUE(buffer.isUntouched());
-    EXPECT_EQ(buffer.length, capacity);
-    return Failed(result);
-}
-
-template <typename Call>
-std::wstring PairOf(const Call& call)
-{
-    std::wstring name;
-    const std::wstring value = TextOf([&](wchar_t* valueBuffer, std::uint32_t* valueLength) {
-        std::int32_t result = PGSP_OK;
-        name = TextOf([&](wchar_t* nameBuffer, std::uint32_t* nameLength) {
-            result = call(nameBuffer, nameLength, valueBuffer, valueLength);
-            return result;
-        });
-        return result;
-    });
-    return name == value && name.starts_with(L"(result") ? name : name + L"=" + value;
-}
 
 } // namespace norvepa::test
