@@ -592,8 +592,9 @@ int32_t LogDeviceDelTempBL(const wchar_t* TempLogDevice);
  */
 
 /*
- * Enumerates the parameters of the section Ndi and the links to pages: ask for index 0, 1, 2 and so on. Links
- * to texts aren't among them.
+ * Enumerates the parameters of the section Ndi, those of the section of links, and the links to pages: ask
+ * for index 0, 1, 2 and so on. Links to texts aren't among them, and a link without a library has an empty
+ * value.
  *
  *   LogDevice  in      the log device
  *   index      in      which one
@@ -619,7 +620,8 @@ int32_t PGSP_LogDeviceEnumNdiValueBL(const wchar_t* LogDevice, uint32_t index, w
 
 /*
  * Reads one of these values: a parameter of the section Ndi, or else a link to a page, or else the text
- * itself that a link of this name leads to, in the user's language.
+ * itself that a link of this name leads to, in the user's language. Links to pages are found only for a log
+ * device whose name is also its file's name.
  *
  *   LogDevice  in      the log device
  *   Parameter  in      the parameter
@@ -630,9 +632,10 @@ int32_t PGSP_LogDeviceEnumNdiValueBL(const wchar_t* LogDevice, uint32_t index, w
  * PGSP_OK                      Value and dwValue are set
  * PGSP_ERR_INVALID_PARAMETERS  LogDevice or Parameter is null or empty, or an output is null
  * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the length of a link or a text. A parameter of the section Ndi
- *                              that doesn't fit is passed over instead, and what comes behind it answers
+ *                              that doesn't fit is passed over instead, and what comes behind it answers.
+ *                              Also, with dwValue as it was, for an escaped path of 260 characters or more
  * PGSP_ERR_FILE_NOT_FOUND      there is no such log device, or its file can't be read
- * PGSP_ERR_PARAM_NOT_FOUND     it has no such value
+ * PGSP_ERR_PARAM_NOT_FOUND     it has no such value, or its file isn't well-formed up to it
  * PGSP_ERR_CANT_LOAD_DLL, PGSP_ERR_CANT_LOAD_RESOURCE
  *                              as PGSP_LogDeviceGetResourceStringBL
  * PGSP_ERR_FOLDER_NOT_FOUND    the data folder, or for a text the program folder, can't be found
@@ -644,11 +647,14 @@ int32_t PGSP_LogDeviceGetNdiBL(const wchar_t* LogDevice, const wchar_t* Paramete
  * Sets one of these values. The parameter's name decides where it goes.
  *
  *   LogDevice  in  the log device
- *   Parameter  in  "DescDefault", "DescText": a link to a text, made of "library,number" or "number".
- *                  "PropSheet", "Diagnosis": a link to a page when Value holds a comma, "library,function".
- *                  All else is a parameter of the section Ndi, of the type that the catalogue gives, or else
- *                  "bool" for the values "true" and "false" and "string" for all others
- *   Value      in  the value, without < and >; of a link split at its first comma
+ *   Parameter  in  "DescDefault", "DescText": a link to a text, "library,number"; "number" alone leaves the
+ *                  library of a link that is there. "PropSheet", "Diagnosis": a link to a page when Value
+ *                  holds a comma, "library,function". All else is a parameter of the section Ndi, of the type
+ *                  that the catalogue gives, or else "bool" for the values "true" and "false" and "string"
+ *                  for all others. Names of links and of strings hold no blank and none of
+ *                  []^!"$%&()=?'#+><*|;,  or the section sign or the acute accent
+ *   Value      in  the value; links and strings without < and >. A link is split at its first comma; one with
+ *                  an empty part can't be read back
  *   flag       in  the section of links, which is made where it isn't there
  *
  * PGSP_OK                          set, or set already: a value that differs in case alone is the same
@@ -659,10 +665,12 @@ int32_t PGSP_LogDeviceGetNdiBL(const wchar_t* LogDevice, const wchar_t* Paramete
  * PGSP_ERR_CANT_LOAD_XML_FILE      its file is malformed or over 10,000,000 bytes
  * PGSP_ERR_CANT_CREATE_XML_ENGINE  the document engine can't be created; for a link also on a thread without
  *                                  COM
- * PGSP_ERR_CANT_SET_VALUE          its file has no section Ndi, or XML can't hold the value
+ * PGSP_ERR_CANT_SET_VALUE          its file has no section Ndi, or XML can't hold the name, the value, or the
+ *                                  catalogue's type as an element
  * PGSP_ERR_FOLDER_NOT_FOUND        the data folder can't be found
  *
- * Notifies "LogDevices", the log device, when the value has changed.
+ * Notifies "LogDevices", the log device, when the value has changed. Libraries are looked for below the
+ * program folder's "bin".
  */
 int32_t PGSP_LogDeviceSetNdiBL(const wchar_t* LogDevice, const wchar_t* Parameter, const wchar_t* Value,
                                int32_t flag);
@@ -675,9 +683,17 @@ int32_t PGSP_LogDeviceSetNdiBL(const wchar_t* LogDevice, const wchar_t* Paramete
  *   Parameter  in  the parameter
  *   flag       in  the section of links
  *
- * PGSP_OK                      removed
- * PGSP_ERR_INVALID_PARAMETERS  LogDevice or Parameter is null or empty
- * and those of LogDeviceDelValueBL
+ * PGSP_OK                          removed
+ * PGSP_ERR_INVALID_PARAMETERS      LogDevice or Parameter is null or empty
+ * PGSP_ERR_BUFFER_TOO_SHORT        the path has 260 characters or more
+ * PGSP_ERR_FILE_NOT_FOUND          there is no such log device
+ * PGSP_ERR_CANT_CREATE_XML_ENGINE  COM isn't initialised on this thread
+ * PGSP_ERR_INVALID_FILE            the schema doesn't allow it; the log device is as it was
+ * PGSP_ERR_CANT_LOAD_XML_FILE      its file is malformed or over 10,000,000 bytes
+ * PGSP_ERR_CANT_LOAD_SCHEMA        the schema is missing or malformed; the log device is as it was
+ * PGSP_ERR_CANT_DELETE_FILE        its file is in use or protected and stays; the new form stays beside it
+ * PGSP_ERR_PARAM_NOT_FOUND         it has no such value that can be removed
+ * PGSP_ERR_FOLDER_NOT_FOUND        the data folder or the program folder can't be found
  *
  * Notifies "LogDevices", the log device, when it was removed.
  */
@@ -920,32 +936,37 @@ int32_t PGSP_ProtocolGetValueRawBL(const wchar_t* CPType, const wchar_t* Paramet
 /* Texts: what a person is shown of an object, in the person's language --------------------------------
  *
  * A file's section UserInterface (any flag but 0) or UserInterface64 (flag 0) links names to numbers in a
- * resource library, which lies in a folder per language below the program folder's "bin", or below the path
- * that the link tells. A library that isn't there in the language is looked for under "en"; a number that a
- * library lacks isn't. No code of a library is run.
+ * resource library, which lies in a folder per language below a root. The root is the path that the link
+ * tells, with environment variables in it; it is the program folder's "bin" for a link without a path, one
+ * whose path holds "%commonpath%", and one whose path becomes longer than 259 characters. A library that
+ * isn't there in the language is looked for under "en"; a number that a library lacks isn't. No code of a
+ * library is run, and none stays open.
  */
 
 /*
  * Reads a text of a log device, a log name, a board.
  *
  *   LogDevice, LogName, Board
- *              in      the object; a board by its DeviceID, a leading "*" is dropped, or by its file's name
+ *              in      the object; a board by its DeviceID, of which a leading "*" is dropped, or by its
+ *                      file's name
  *   Parameter  in      the link's name; with a backslash and a decimal number behind it, the text that many
- *                      numbers further on
- *   Language   in      a language of two letters in any case; any other text, or null, is the user's own
+ *                      numbers further on or, with a sign, back
+ *   Language   in      a language of two characters in any case; any other text, or null, is the user's own
  *   Value      out     buffer for the text
  *   dwValue    in/out  its length in characters
  *   flag       in      the section of links
  *
  * PGSP_OK                      Value and dwValue are set
- * PGSP_ERR_INVALID_PARAMETERS  there is a text, and an output is null
- * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the text's length; also for a path of 260 characters or more
+ * PGSP_ERR_INVALID_PARAMETERS  there is a text, and an output is null; but a null Value with a length of 0
+ *                              asks for the text's length
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the text's length; also, with dwValue as it was, for an escaped
+ *                              path of 260 characters or more
  * PGSP_ERR_CANT_LOAD_DLL       neither library can be loaded, or the library's name holds a backslash
  * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such object, or its file can't be read; so for one without a name
- * PGSP_ERR_PARAM_NOT_FOUND     it has no such link
+ * PGSP_ERR_PARAM_NOT_FOUND     it has no such link, or its file isn't well-formed up to it
  * PGSP_ERR_FOLDER_NOT_FOUND    the program folder, or for log devices and log names the data folder, can't be
  *                              found
- * PGSP_ERR_CANT_LOAD_RESOURCE  the library has no text of this number
+ * PGSP_ERR_CANT_LOAD_RESOURCE  the library has no text of this number, or an empty one
  */
 int32_t PGSP_LogDeviceGetResourceStringBL(const wchar_t* LogDevice, const wchar_t* Parameter,
                                           const wchar_t* Language, wchar_t* Value, uint32_t* dwValue,
@@ -960,7 +981,9 @@ int32_t PGSP_BoardGetResourceStringBL(const wchar_t* Board, const wchar_t* Param
  * Reads a text of a file of the catalogue.
  *
  *   FolderName    in  "Boards", "Protocols", "DefaultLogDevices", in any case, or another folder beside those
- *   TemplateName  in  the file's name, in those three also without its prefix
+ *   TemplateName  in  the file's name, in those three also without its prefix, which is known in this case
+ *                     alone. Of a board's a leading "*" is dropped. A template's without it is escaped once
+ *                     more than its file's name, so that one with such characters is found by its whole name
  *
  * and all else as above, but that PGSP_ERR_INVALID_PARAMETERS is also the result when one of the two is null
  * or empty.

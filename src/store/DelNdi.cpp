@@ -9,33 +9,10 @@
 namespace norvepa
 {
 
-namespace
-{
-
-constexpr TraceSource source{"NorvXMLDelNdi: ", "XML"};
-
-// Links to texts aren't removed.
-Node FindPageLink(const Document& document, std::wstring_view sectionName, std::wstring_view parameter)
-{
-    const Node section = FirstElement(document, sectionName);
-    if (!section)
-    {
-        return {};
-    }
-    for (const Node& child : section.Children())
-    {
-        if (child.IsNamed(L"ParameterAssemblyLink") && IsCalled(child, parameter))
-        {
-            return child;
-        }
-    }
-    return {};
-}
-
-} // namespace
-
 Result NorvXMLDelNdi(const wchar_t* filePath, const wchar_t* parameter, int wide)
 {
+    constexpr TraceSource source{"NorvXMLDelNdi: ", "XML"};
+
     if (IsMissing(filePath) || parameter == nullptr)
     {
         return PGSP_ERR_INVALID_PARAMETERS;
@@ -53,11 +30,14 @@ Result NorvXMLDelNdi(const wchar_t* filePath, const wchar_t* parameter, int wide
         return result;
     }
 
-    const Node link = FindPageLink(document, LinkSection(wide), parameter);
+    // Links to texts aren't removed.
+    const Node section = FirstElement(document, LinkSection(wide));
+    const Node link = section ? ChildCalled(section, L"ParameterAssemblyLink", parameter) : Node{};
     if (!link || !link.Parent().Remove(link))
     {
         return PGSP_ERR_PARAM_NOT_FOUND;
     }
+    // By the path not escaped yet, unlike the deletion of a value: a leftover is met whatever its name.
     static_cast<void>(NorvXMLDeleteFile((std::wstring(filePath) + TemporaryMark).c_str()));
     static_cast<void>(document.Save(TemporaryForm(escaped)));
     return PGSP_OK;

@@ -143,6 +143,18 @@ bool IsCalled(const Node& element, std::wstring_view parameter)
     return false;
 }
 
+Node ChildCalled(const Node& parent, std::wstring_view element, std::wstring_view parameter)
+{
+    for (const Node& child : parent.Children())
+    {
+        if (child.IsNamed(element) && IsCalled(child, parameter))
+        {
+            return child;
+        }
+    }
+    return {};
+}
+
 Node ValueOfEntry(const Node& entry, std::wstring_view parameter)
 {
     bool matched = false;

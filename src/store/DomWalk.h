@@ -21,7 +21,7 @@ namespace norvepa
 // PGSP_ERR_CANT_LOAD_XML_FILE.
 [[nodiscard]] Result OpenDocument(const TraceSource& source, const std::wstring& file, Document& document);
 
-// The same without a word in the trace, but for the size guard's: how files are opened that are only asked.
+// The same without a word in the trace, but for the size guard's.
 [[nodiscard]] Result OpenDocument(const std::wstring& file, Document& document);
 
 // COM for a call that may come on a thread without it: when there is no engine for want of COM, COM is
@@ -35,7 +35,7 @@ public:
     ComForOneCall& operator=(const ComForOneCall&) = delete;
     ~ComForOneCall();
 
-    // As the function above.
+    // As the function above that traces.
     [[nodiscard]] Result OpenDocument(const TraceSource& source, const std::wstring& file,
                                       Document& document);
 
@@ -59,6 +59,9 @@ private:
 
 // True when a child `Name` of an entry or a link is this one.
 [[nodiscard]] bool IsCalled(const Node& element, std::wstring_view parameter);
+
+// The first child of this element name that is called so; empty when there is none.
+[[nodiscard]] Node ChildCalled(const Node& parent, std::wstring_view element, std::wstring_view parameter);
 
 // The `Value` of an entry whose `Name`, ahead of it, is the parameter's; empty when it isn't this entry.
 [[nodiscard]] Node ValueOfEntry(const Node& entry, std::wstring_view parameter);

@@ -62,7 +62,7 @@ Node EntryAt(const Document& document, std::uint32_t index)
     return {};
 }
 
-// A value in another case is another value here.
+// A value in another case is another value here, and it doesn't matter whether it stands behind the name.
 Result ReplaceText(const Node& entry, std::wstring_view value)
 {
     const Node valueNode = ChildNamed(entry, L"Value");

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 namespace norvepa
 {
@@ -19,33 +20,16 @@ namespace
 
 constexpr TraceSource source{"NorvXMLSetNdi: ", "XML"};
 
-// Names, and the child that their links carry beside library and path.
-struct ThirdChildRow
-{
-    std::wstring_view parameter;
-    std::wstring_view child;
-};
-
-constexpr std::array<ThirdChildRow, 6> ThirdChildTable{{
-    {L"PropSheet", L"Function"},
-    {L"Diagnosis", L"Function"},
-    {L"DescText", L"ResourceId"},
-    {L"DescDefault", L"ResourceId"},
-    {L"BaudrateResource", L"ResourceId"},
-    {L"BusparamResource", L"ResourceId"},
-}};
-
 struct FolderKindRow
 {
     std::wstring_view folder;
     std::wstring_view kind;
 };
 
-// Looked for anywhere in the path, in this order.
-constexpr std::array<FolderKindRow, 4> FolderKindTable{{
+// Looked for anywhere in the path, in this order. "DefaultLogDevices" holds the second.
+constexpr std::array<FolderKindRow, 3> FolderKindTable{{
     {L"Boards", L"brd"},
     {L"LogDevices", L"dev"},
-    {L"DefaultLogDevices", L"dev"},
     {L"Protocols", L"pro"},
 }};
 
@@ -77,54 +61,59 @@ struct Link
 };
 
 template <typename Test>
-bool EachText(const Link& link, const Test& test)
+bool AllTexts(const Link& link, const Test& test)
 {
     const auto texts = link.Texts();
     return std::all_of(texts.begin(), texts.end(),
                        [&](const wchar_t* text) { return test(TextOrEmpty(text)); });
 }
 
-// A child and what it is to hold; null leaves it alone.
+// A child of a link, and what a caller gives for it.
 struct LinkChild
 {
     std::wstring_view element;
-    const wchar_t* text;
+    const wchar_t* Link::*text;
 };
 
-using LinkChildren = std::array<LinkChild, 3>;
+constexpr LinkChild AssemblyChild{L"Assembly", &Link::assembly};
+constexpr LinkChild PathChild{L"Path", &Link::path};
+constexpr LinkChild FunctionChild{L"Function", &Link::function};
+constexpr LinkChild ResourceIdChild{L"ResourceId", &Link::resourceId};
 
-// Of a link that is there: its kind decides what is compared.
-LinkChildren ComparedChildren(const Link& link)
+// The names whose links carry a third child when they are made, and which.
+struct ThirdChildRow
 {
-    const LinkChild third =
-        link.IsResource() ? LinkChild{L"ResourceId", link.resourceId} : LinkChild{L"Function", link.function};
-    return {{{L"Assembly", link.assembly}, {L"Path", link.path}, third}};
+    std::wstring_view parameter;
+    LinkChild child;
+};
+
+constexpr std::array<ThirdChildRow, 6> ThirdChildTable{{
+    {L"PropSheet", FunctionChild},
+    {L"Diagnosis", FunctionChild},
+    {L"DescText", ResourceIdChild},
+    {L"DescDefault", ResourceIdChild},
+    {L"BaudrateResource", ResourceIdChild},
+    {L"BusparamResource", ResourceIdChild},
+}};
+
+std::vector<LinkChild> CarriedChildren(const Link& link)
+{
+    std::vector<LinkChild> children{AssemblyChild, PathChild};
+    const auto row = std::find_if(ThirdChildTable.begin(), ThirdChildTable.end(), [&](const auto& each) {
+        return EqualNoCase(each.parameter, link.parameter);
+    });
+    if (row != ThirdChildTable.end())
+    {
+        children.push_back(row->child);
+    }
+    return children;
 }
 
-// Of a new link: its name decides what it carries.
-LinkChildren NewChildren(const Link& link)
+bool Carries(const Link& link, const LinkChild& child)
 {
-    LinkChild third{{}, nullptr};
-    for (const ThirdChildRow& row : ThirdChildTable)
-    {
-        if (EqualNoCase(row.parameter, link.parameter))
-        {
-            third = {row.child, row.child == L"Function" ? link.function : link.resourceId};
-        }
-    }
-    return {{{L"Assembly", link.assembly}, {L"Path", link.path}, third}};
-}
-
-Node FindLink(const Node& section, const Link& link)
-{
-    for (const Node& child : section.Children())
-    {
-        if (child.IsNamed(link.Element()) && IsCalled(child, link.parameter))
-        {
-            return child;
-        }
-    }
-    return {};
+    const auto carried = CarriedChildren(link);
+    return std::any_of(carried.begin(), carried.end(),
+                       [&](const LinkChild& each) { return each.element == child.element; });
 }
 
 bool AppendText(const Document& document, const Node& parent, std::wstring_view element,
@@ -134,26 +123,37 @@ bool AppendText(const Document& document, const Node& parent, std::wstring_view 
     return child && child.SetText(text) && parent.Append(child);
 }
 
-// PGSP_ERR_SAME_VALUE when all that is given is there. A child that is absent counts as an empty one.
+// PGSP_ERR_SAME_VALUE when all that is given is there. A child that is absent counts as an empty one, and is
+// made where a new link would carry it.
+Result ReplaceText(const Document& document, const Node& element, const Link& link, const LinkChild& wanted,
+                   std::wstring_view kind)
+{
+    const wchar_t* const text = link.*wanted.text;
+    const Node child = ChildNamed(element, wanted.element);
+    if (text == nullptr || (!child && !Carries(link, wanted)) ||
+        EqualNoCase(child ? child.Text().view() : std::wstring_view{}, text))
+    {
+        return PGSP_ERR_SAME_VALUE;
+    }
+    const bool done = child ? child.SetText(text) : AppendText(document, element, wanted.element, kind, text);
+    return done ? PGSP_OK : PGSP_ERR_CANT_SET_VALUE;
+}
+
+// The kind of a link that is there decides what is compared.
 Result ReplaceTexts(const Document& document, const Node& element, const Link& link, std::wstring_view kind)
 {
-    Result result = PGSP_ERR_SAME_VALUE;
-    for (const LinkChild& each : ComparedChildren(link))
+    Result whole = PGSP_ERR_SAME_VALUE;
+    for (const LinkChild& wanted :
+         {AssemblyChild, PathChild, link.IsResource() ? ResourceIdChild : FunctionChild})
     {
-        if (each.text == nullptr || EqualNoCase(ChildText(element, each.element), each.text))
+        const Result result = ReplaceText(document, element, link, wanted, kind);
+        if (result == PGSP_ERR_CANT_SET_VALUE)
         {
-            continue;
+            return result;
         }
-        const Node child = ChildNamed(element, each.element);
-        const bool done =
-            child ? child.SetText(each.text) : AppendText(document, element, each.element, kind, each.text);
-        if (!done)
-        {
-            return PGSP_ERR_CANT_SET_VALUE;
-        }
-        result = PGSP_OK;
+        whole = result == PGSP_OK ? PGSP_OK : whole;
     }
-    return result;
+    return whole;
 }
 
 bool AppendLink(const Document& document, const Node& section, const Link& link, std::wstring_view kind)
@@ -163,9 +163,10 @@ bool AppendLink(const Document& document, const Node& section, const Link& link,
     {
         return false;
     }
-    const LinkChildren children = NewChildren(link);
+    const auto children = CarriedChildren(link);
     return std::all_of(children.begin(), children.end(), [&](const LinkChild& each) {
-        return each.text == nullptr || AppendText(document, element, each.element, kind, each.text);
+        const wchar_t* const text = link.*each.text;
+        return text == nullptr || AppendText(document, element, each.element, kind, text);
     });
 }
 
@@ -183,8 +184,8 @@ Node SectionOfLinks(const Document& document, std::wstring_view name, std::wstri
 Result SetLink(const Document& document, const Link& link, std::wstring_view sectionName,
                std::wstring_view kind)
 {
-    // Here, because a section that has been made must not stay without its link.
-    if (!IsXmlText(link.parameter) || !EachText(link, IsXmlText))
+    // Of all that is given, also what no child takes.
+    if (!IsXmlText(link.parameter) || !AllTexts(link, IsXmlText))
     {
         return PGSP_ERR_CANT_SET_VALUE;
     }
@@ -193,7 +194,7 @@ Result SetLink(const Document& document, const Link& link, std::wstring_view sec
     {
         return PGSP_ERR_CANT_SET_VALUE;
     }
-    if (const Node found = FindLink(section, link))
+    if (const Node found = ChildCalled(section, link.Element(), link.parameter))
     {
         return ReplaceTexts(document, found, link, kind);
     }
@@ -215,7 +216,7 @@ Result NorvXMLSetNdi(const wchar_t* filePath, const wchar_t* parameter, const wc
         return result;
     }
     const Link link{parameter, assembly, path, function, resourceId};
-    if (!AreNameCharacters(parameter) || !EachText(link, AreValueCharacters))
+    if (!AreNameCharacters(parameter) || !AllTexts(link, AreValueCharacters))
     {
         return PGSP_ERR_INVALID_PARAMETERS;
     }

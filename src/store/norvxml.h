@@ -160,8 +160,8 @@ namespace norvepa
 
 // Texts, pages and the section `Ndi` of a log device ---------------------------------------------------
 //
-// By documents, as the writing above. `wide` chooses the section of links: 0 `UserInterface64`, any other
-// number `UserInterface`. A null parameter is refused.
+// By documents, as the writing above; outputs are untouched without an answer. `wide` chooses the section of
+// links: 0 `UserInterface64`, any other number `UserInterface`. A null parameter is refused.
 
 // The entries of `Ndi` and of the section of links, and the links to pages, by index; PGSP_ERR_NO_MORE_ITEMS
 // past the last. A link's value is its assembly, "," and its function; without an assembly it is empty.
@@ -169,9 +169,9 @@ namespace norvepa
                                     std::wstring* value, int wide);
 
 // Sets a link, and makes it, and the section, where they aren't there: a `Resource` when a resource id is
-// given or no function, otherwise a `ParameterAssemblyLink`. What is null is left alone and not made; the
-// function is made for "PropSheet" and "Diagnosis" only, the resource id for the four names of texts. Nothing
-// is done when all that is given is there, without regard to case.
+// given or no function, otherwise a `ParameterAssemblyLink`. What is null is left alone and not made; a
+// function is made for "PropSheet" and "Diagnosis" only, a resource id for "DescText", "DescDefault",
+// "BaudrateResource" and "BusparamResource". PGSP_ERR_SAME_VALUE when all that is given is there.
 [[nodiscard]] Result NorvXMLSetNdi(const wchar_t* filePath, const wchar_t* parameter, const wchar_t* assembly,
                                    const wchar_t* path, const wchar_t* function, const wchar_t* resourceId,
                                    int wide);
@@ -182,15 +182,16 @@ namespace norvepa
 
 // Parameter data: flat files of named parameters ---------------------------------------------------------
 //
-// By documents; entries are met at whatever depth, names without regard to case. A null name is refused, and
-// there are no rules for names or values beyond what XML can hold.
+// By documents; entries are met at whatever depth, names without regard to case. Outputs are untouched
+// without an answer. A null name is refused; there are no rules for names or values but what XML can hold.
 
 // The first entry of the name; PGSP_ERR_PARAM_NOT_FOUND when there is none, or it has no value.
 [[nodiscard]] Result NorvXMLGetParameterData(const wchar_t* filePath, const wchar_t* name,
                                              std::wstring* value);
 
 // Sets an entry of the type ("int", "bool", all else is a text), and makes it below the root where it isn't
-// there: entries of another type don't count. PGSP_ERR_SAME_VALUE here regards case.
+// there: entries of another type don't count. PGSP_ERR_SAME_VALUE here regards case. An entry without a
+// `Value` can't be set.
 [[nodiscard]] Result NorvXMLSetParameterData(const wchar_t* filePath, const wchar_t* name,
                                              const wchar_t* value, const wchar_t* type);
 

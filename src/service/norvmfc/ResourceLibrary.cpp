@@ -1,5 +1,7 @@
 #include "service/norvmfc/ResourceLibrary.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <span>
 
@@ -13,48 +15,70 @@ constexpr DWORD AsData = LOAD_LIBRARY_AS_IMAGE_RESOURCE | LOAD_LIBRARY_AS_DATAFI
 constexpr std::int64_t LastNumber = 0xFFFF;
 constexpr unsigned StringsPerBlock = 16;
 
+using Block = std::span<const std::byte>;
+
+// How many bytes from an address on can be read: a library's own tables may point anywhere.
+std::size_t ReadableBytes(const void* address) noexcept
+{
+    MEMORY_BASIC_INFORMATION pages{};
+    if (VirtualQuery(address, &pages, sizeof pages) == 0 || pages.State != MEM_COMMIT ||
+        (pages.Protect & (PAGE_NOACCESS | PAGE_GUARD)) != 0)
+    {
+        return 0;
+    }
+    const auto offset = static_cast<const std::byte*>(address) - static_cast<std::byte*>(pages.BaseAddress);
+    return pages.RegionSize - static_cast<std::size_t>(offset);
+}
+
 // The block that holds a string; blocks are numbered from 1. Empty when there is none.
-std::span<const std::byte> BlockOf(HMODULE module, unsigned number) noexcept
+Block BlockOf(HMODULE module, unsigned number) noexcept
 {
     const auto block = static_cast<WORD>(number / StringsPerBlock + 1);
     const HRSRC resource = FindResourceW(module, MAKEINTRESOURCEW(block), RT_STRING);
     const HGLOBAL loaded = resource == nullptr ? nullptr : LoadResource(module, resource);
     const void* const data = loaded == nullptr ? nullptr : LockResource(loaded);
-    return data == nullptr ? std::span<const std::byte>{}
-                           : std::span(static_cast<const std::byte*>(data), SizeofResource(module, resource));
+    if (data == nullptr)
+    {
+        return {};
+    }
+    const std::size_t told = SizeofResource(module, resource);
+    return {static_cast<const std::byte*>(data), std::min(told, ReadableBytes(data))};
 }
 
-std::size_t LengthAt(std::span<const std::byte> block) noexcept // in bytes
+// Takes the first string off a block: a count of characters, then these. False when it counts more than the
+// block holds.
+bool TakeString(Block& block, Block& string) noexcept
 {
     WORD characters = 0;
+    if (block.size() < sizeof characters)
+    {
+        return false;
+    }
     std::memcpy(&characters, block.data(), sizeof characters);
-    return characters * sizeof(wchar_t);
+    block = block.subspan(sizeof characters);
+    const std::size_t length = characters * sizeof(wchar_t);
+    if (block.size() < length)
+    {
+        return false;
+    }
+    string = block.first(length);
+    block = block.subspan(length);
+    return true;
 }
 
-// A block is 16 strings one behind the other, each a count of characters and then these. What it counts may
-// be more than it holds.
-std::wstring StringInBlock(std::span<const std::byte> block, unsigned index)
+std::wstring StringInBlock(Block block, unsigned index)
 {
-    for (;; --index)
+    Block string;
+    for (unsigned taken = 0; taken <= index; ++taken)
     {
-        if (block.size() < sizeof(WORD))
+        if (!TakeString(block, string))
         {
             return {};
         }
-        const std::size_t length = LengthAt(block);
-        block = block.subspan(sizeof(WORD));
-        if (block.size() < length)
-        {
-            return {};
-        }
-        if (index == 0)
-        {
-            std::wstring text(length / sizeof(wchar_t), L'\0');
-            std::memcpy(text.data(), block.data(), length);
-            return text;
-        }
-        block = block.subspan(length);
     }
+    std::wstring text(string.size() / sizeof(wchar_t), L'\0');
+    std::memcpy(text.data(), string.data(), string.size());
+    return text;
 }
 
 } // namespace
@@ -66,7 +90,7 @@ ResourceLibrary::ResourceLibrary(const std::wstring& path) noexcept
 
 std::wstring ResourceLibrary::TextOf(std::int64_t number) const
 {
-    if (number < 0 || number > LastNumber)
+    if (!m_library || number < 0 || number > LastNumber)
     {
         return {};
     }

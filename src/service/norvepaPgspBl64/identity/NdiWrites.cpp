@@ -6,6 +6,8 @@
 #include "store/LinkSection.h"
 #include "store/norvxml.h"
 
+#include <optional>
+
 using namespace norvepa;
 
 namespace
@@ -33,30 +35,34 @@ struct LinkValue
     std::wstring target;
 };
 
-LinkValue SplitLink(std::wstring_view value)
+std::optional<LinkValue> SplitLink(std::wstring_view value)
 {
     const std::size_t comma = value.find(L',');
-    return {std::wstring(value.substr(0, comma)), std::wstring(value.substr(comma + 1))};
+    if (comma == std::wstring_view::npos)
+    {
+        return std::nullopt;
+    }
+    return LinkValue{std::wstring(value.substr(0, comma)), std::wstring(value.substr(comma + 1))};
 }
 
 Result WriteTextLink(const ExportFrame& frame, const std::wstring& file, const wchar_t* parameter,
                      const wchar_t* value, int wide)
 {
-    if (!Holds(value, L","))
+    const auto link = SplitLink(value);
+    if (!link)
     {
         return NorvXMLSetNdi(file.c_str(), parameter, nullptr, nullptr, nullptr, value, wide);
     }
-    const LinkValue link = SplitLink(value);
     NORV_TRACE(frame, TraceInfo, "Create Resource with Assembly = %s, Path = %s, ResourceId = %s",
-               TraceToAnsi(link.assembly.c_str()), TraceToAnsi(CommonPath), TraceToAnsi(link.target.c_str()));
-    return NorvXMLSetNdi(file.c_str(), parameter, link.assembly.c_str(), CommonPath, nullptr,
-                         link.target.c_str(), wide);
+               TraceToAnsi(link->assembly.c_str()), TraceToAnsi(CommonPath),
+               TraceToAnsi(link->target.c_str()));
+    return NorvXMLSetNdi(file.c_str(), parameter, link->assembly.c_str(), CommonPath, nullptr,
+                         link->target.c_str(), wide);
 }
 
 Result WritePageLink(const ExportFrame& frame, const std::wstring& file, const wchar_t* parameter,
-                     const wchar_t* value, int wide)
+                     const LinkValue& link, int wide)
 {
-    const LinkValue link = SplitLink(value);
     NORV_TRACE(frame, TraceInfo, "Create ParameterAssemblyLink with Assembly = %s, Path = %s, Function = %s",
                TraceToAnsi(link.assembly.c_str()), TraceToAnsi(CommonPath), TraceToAnsi(link.target.c_str()));
     return NorvXMLSetNdi(file.c_str(), parameter, link.assembly.c_str(), CommonPath, link.target.c_str(),
@@ -90,9 +96,9 @@ Result WriteByName(const ExportFrame& frame, DeviceCatalogue& catalogue, const w
     {
         return WriteTextLink(frame, file, parameter, value, wide);
     }
-    if (IsPageLink(parameter) && Holds(value, L","))
+    if (const auto link = SplitLink(value); link && IsPageLink(parameter))
     {
-        return WritePageLink(frame, file, parameter, value, wide);
+        return WritePageLink(frame, file, parameter, *link, wide);
     }
     return WritePlain(frame, catalogue, file, parameter, value);
 }
@@ -107,7 +113,7 @@ Result DelWhereItIs(const wchar_t* file, const wchar_t* parameter, int wide)
     }
     if (result != PGSP_OK)
     {
-        result = NorvXMLDelValue(file, LinkSection(wide).data(), parameter);
+        result = NorvXMLDelValue(file, LinkSection(wide), parameter);
     }
     return result;
 }

@@ -10,9 +10,11 @@
 #include <windows.h>
 
 #include <array>
+#include <cstdint>
 #include <cwchar>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace norvepa
 {
@@ -20,7 +22,7 @@ namespace norvepa
 namespace
 {
 
-// Where a library lies, below a root: in a folder a language.
+// What a `Resource` says: a library's file, where it lies, and the number of a text in it.
 struct Link
 {
     std::wstring assembly;
@@ -40,7 +42,10 @@ Result ReadLink(const wchar_t* file, std::wstring_view parameter, int wide, Link
     std::wstring nameSpace;
     const Result result =
         NorvXMLGetAssemblyLink(file, name.c_str(), &link.assembly, &link.path, &resourceId, &nameSpace, wide);
-    link.number = std::int64_t{_wtoi(resourceId.c_str())} + _wtoi(offset.c_str());
+    if (result == PGSP_OK)
+    {
+        link.number = std::int64_t{_wtoi(resourceId.c_str())} + _wtoi(offset.c_str());
+    }
     return result;
 }
 
@@ -62,8 +67,11 @@ std::optional<std::wstring> ExpandedPath(const std::wstring& path)
     std::array<wchar_t, PathCapacity> expanded{};
     const DWORD written =
         ExpandEnvironmentStringsW(path.c_str(), expanded.data(), static_cast<DWORD>(expanded.size()));
-    return written == 0 || written > expanded.size() ? std::nullopt
-                                                     : std::optional<std::wstring>(expanded.data());
+    if (written == 0 || written > expanded.size())
+    {
+        return std::nullopt;
+    }
+    return expanded.data();
 }
 
 struct Root
@@ -90,12 +98,19 @@ Root RootOf(const ExportFrame& frame, const std::wstring& path, const std::wstri
     return expanded ? Root{*expanded, byVariables} : Root{standard, "Using std-path = %s"};
 }
 
+// With the backslash also where the file's name is empty: that names a folder, which can't be loaded, and not
+// the library that might lie beside it.
+std::wstring LibraryPath(const Root& root, std::wstring_view language, std::wstring_view assembly)
+{
+    return JoinPath(root.folder, language).append(L"\\").append(assembly);
+}
+
 // The library of the language, or else the English one below the same root.
 ResourceLibrary LoadLibraryOf(const ExportFrame& frame, const Root& root, std::wstring_view language,
                               std::wstring_view assembly)
 {
-    std::wstring dllPath = JoinPath(JoinPath(root.folder, language), assembly);
-    std::wstring fallback = JoinPath(JoinPath(root.folder, L"en"), assembly);
+    std::wstring dllPath = LibraryPath(root, language, assembly);
+    std::wstring fallback = LibraryPath(root, L"en", assembly);
     NORV_TRACE(frame, TraceInfo, root.howFound, TraceToAnsi(dllPath.c_str()));
     if (dllPath.size() > PathCapacity)
     {
@@ -112,7 +127,7 @@ ResourceLibrary LoadLibraryOf(const ExportFrame& frame, const Root& root, std::w
                static_cast<int>(library.error()));
     if (fallback.size() > PathCapacity)
     {
-        // Names the first path, not the one that is too long.
+        // Names the first path, though the other is meant.
         NORV_TRACE(frame, TraceWarning, "Backup path too long: DllPath=%s", TraceToAnsi(dllPath.c_str()));
         fallback.clear();
     }
@@ -123,6 +138,25 @@ ResourceLibrary LoadLibraryOf(const ExportFrame& frame, const Root& root, std::w
                    static_cast<int>(english.error()));
     }
     return english;
+}
+
+// The library is let go of before anything else is done: while it is loaded its file can't be replaced.
+Result LoadText(const ExportFrame& frame, const Root& root, std::wstring_view language, const Link& link,
+                std::wstring& text)
+{
+    const ResourceLibrary library = LoadLibraryOf(frame, root, language, link.assembly);
+    if (!library)
+    {
+        return PGSP_ERR_CANT_LOAD_DLL;
+    }
+    text = library.TextOf(link.number);
+    return text.empty() ? PGSP_ERR_CANT_LOAD_RESOURCE : PGSP_OK;
+}
+
+// A null buffer may ask for the length.
+bool CanTake(const wchar_t* buffer, const std::uint32_t* length, std::wstring_view text)
+{
+    return length != nullptr && (buffer != nullptr || *length <= text.size());
 }
 
 } // namespace
@@ -150,23 +184,21 @@ Result PGSP_LoadResourceString(const wchar_t* XmlFile, const wchar_t* Parameter,
     {
         NORV_TRACE(frame, TraceWarning, "Backslash in AssemblyName is not allowed: AssemblyName=%s",
                    TraceToAnsi(link.assembly.c_str()));
-        link.assembly.clear(); // and nothing can be loaded
+        link.assembly.clear();
     }
     const Root root = RootOf(frame, link.path, JoinPath(programFolder, L"bin"));
-    const ResourceLibrary library = LoadLibraryOf(frame, root, language, link.assembly);
-    if (!library)
-    {
-        return PGSP_ERR_CANT_LOAD_DLL;
-    }
-
-    const std::wstring text = library.TextOf(link.number);
-    if (text.empty())
+    std::wstring text;
+    const Result result = LoadText(frame, root, language, link, text);
+    if (result == PGSP_ERR_CANT_LOAD_RESOURCE)
     {
         NORV_TRACE(frame, TraceWarning, "Can not load Resource resourceNumber = %d",
                    static_cast<int>(link.number));
-        return PGSP_ERR_CANT_LOAD_RESOURCE;
     }
-    if (buffer == nullptr || length == nullptr)
+    if (result != PGSP_OK)
+    {
+        return result;
+    }
+    if (!CanTake(buffer, length, text))
     {
         return PGSP_ERR_INVALID_PARAMETERS;
     }

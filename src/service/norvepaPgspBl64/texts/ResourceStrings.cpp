@@ -1,10 +1,13 @@
 #include "frame/Arguments.h"
+#include "frame/ExportFrame.h"
 #include "frame/Text.h"
 #include "norvepa.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 #include "service/norvepaLogNamBl64/norvepaLogNamBl64.h"
 #include "service/norvepaPgspBl64/norvepaPgspBl64.h"
 #include "service/norvepaPgspBl64/texts/LoadResourceString.h"
+
+#include <string>
 
 using namespace norvepa;
 
@@ -18,12 +21,15 @@ Result MakeNameIn(const wchar_t* folder, const wchar_t* name, std::wstring& made
     {
         return MakeTemplateNameEscaping(name, made);
     }
+    made = name;
     if (EqualNoCase(folder, BoardsWord))
     {
         made = MakeBoardNameStripFirst(name);
-        return PGSP_OK;
     }
-    made = EqualNoCase(folder, ProtocolsWord) ? MakeProtocolName(name) : std::wstring(name);
+    if (EqualNoCase(folder, ProtocolsWord))
+    {
+        made = MakeProtocolName(name);
+    }
     return PGSP_OK;
 }
 
