@@ -98,6 +98,37 @@ refused norvctl name link Wartung Kesselhaus
 run norvctl name link Lagerhaus Kesselhaus
 run norvctl name show Lagerhaus
 
+say 'A log device is made from a template'
+run norvctl template list
+run norvctl device create 'Mischer Süd' --from L2-AFK110
+run norvctl device get 'Mischer Süd' baudrate
+
+say 'It is edited aside, on a temporary copy: until that is applied, the log device stays what it is'
+copy=PGSP_TEMP_LOG_DEVICE____000
+run norvctl device edit begin 'Mischer Süd'
+run norvctl device set "$copy" baudrate 1500000
+run norvctl device ndi set "$copy" DescText AuentalTexte.dll,1003
+run norvctl device get "$copy" baudrate
+run norvctl device get 'Mischer Süd' baudrate
+run norvctl device edit apply "$copy" 'Mischer Süd'
+run norvctl device get 'Mischer Süd' baudrate
+
+say 'What people are shown of it, in two languages'
+for language in de en; do
+    run norvctl device text 'Mischer Süd' DescText --language "$language"
+    run norvctl device text 'Mischer Süd' 'BaudrateResource\6' --language "$language"
+done
+run norvctl device ndi list 'Mischer Süd'
+
+say 'Log devices are copied and deleted, if they allow it, while a watch in another process is told'
+watch_changes LogDevices 4
+run norvctl device copy 'Mischer Süd' 'Mischer Nord'
+run norvctl device delete 'Mischer Nord'
+run norvctl device create Programmierplatz --from MPI-KQZA010
+refused norvctl device delete Programmierplatz
+run norvctl device delete Programmierplatz --force
+show_changes
+
 say 'Tracing is switched off again; what the first calls have left'
 run norvctl trace off
 iconv -f CP1252 -t UTF-8 "$store/trace/Demo1.TRC" | sed -n '1,18p'

@@ -21,13 +21,15 @@ void AddWatchCommand(CLI::App& app, const Report& report);     // watch
 void AddTraceCommands(CLI::App& app, const Report& report);    // trace status, on, off
 void AddVersionCommand(CLI::App& app, const Report& report);   // version
 
-// Verbs of a noun that have a file of their own.
+// Verbs that have a file beside their noun's.
 void AddDeviceLifeCommands(CLI::App& device, const Report& report); // device create, copy, delete
 void AddDeviceEditCommands(CLI::App& device, const Report& report); // device edit begin, list, apply, discard
 void AddNdiCommands(CLI::App& device, const Report& report);        // device ndi list, get, set, unset
-void AddDeviceTextCommand(CLI::App& device, const Report& report);  // device text, in TextCommands.cpp as are
-void AddNameTextCommand(CLI::App& name, const Report& report);      // name text
-void AddBoardTextCommand(CLI::App& board, const Report& report);    // board text
-void AddTemplateTextCommand(CLI::App& noun, const Report& report);  // template text
+
+// TextCommands.cpp: the verb text of each of these nouns.
+void AddDeviceTextCommand(CLI::App& device, const Report& report);
+void AddNameTextCommand(CLI::App& name, const Report& report);
+void AddBoardTextCommand(CLI::App& board, const Report& report);
+void AddTemplateTextCommand(CLI::App& noun, const Report& report);
 
 } // namespace norvctl

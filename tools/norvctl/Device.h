@@ -12,8 +12,8 @@ namespace norvctl
 
 inline constexpr wchar_t LogDevicesWord[] = L"LogDevices"; // the folder word of their changes
 
-// What the name of a temporary log device begins with, three digits behind it. Changes of a name that holds it
-// are announced to nobody.
+// What the name of a temporary log device begins with, three digits behind it. Changes of a name that holds
+// it are announced to nobody.
 inline constexpr std::wstring_view TemporaryPrefix = L"PGSP_TEMP_LOG_DEVICE____";
 
 // A log device, or one of its parameters, for a message.
