@@ -621,7 +621,9 @@ int32_t PGSP_LogDeviceEnumNdiValueBL(const wchar_t* LogDevice, uint32_t index, w
 /*
  * Reads one of these values: a parameter of the section Ndi, or else a link to a page, or else the text
  * itself that a link of this name leads to, in the user's language. Links to pages are found only for a log
- * device whose name is also its file's name.
+ * device whose name is also its file's name; and the search for them runs on behind their section, so that
+ * with a flag other than 0 a link to a text in a section UserInterface64 further down may answer as
+ * "library,number".
  *
  *   LogDevice  in      the log device
  *   Parameter  in      the parameter
