@@ -465,7 +465,7 @@ int32_t LogDeviceDelValueBL(const wchar_t* LogDevice, const wchar_t* Parameter);
  *
  * PGSP_OK                      made
  * PGSP_ERR_INVALID_PARAMETERS  an argument is null or empty
- * PGSP_ERR_BUFFER_TOO_SHORT    the path has 260 characters or more
+ * PGSP_ERR_BUFFER_TOO_SHORT    the new log device's path has 260 characters or more
  * PGSP_ERR_FILE_NOT_FOUND      there is no such template
  * PGSP_ERR_CANT_COPY_FILE      there is such a log device, which is left as it is, or the file can't be made
  * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found; without a data folder the path is relative
@@ -475,20 +475,23 @@ int32_t LogDeviceDelValueBL(const wchar_t* LogDevice, const wchar_t* Parameter);
 int32_t LogDeviceCreateFromDefBL(const wchar_t* DefLogDeviceName, const wchar_t* LogDeviceName);
 
 /*
- * Copies a log device. The copy is visible and can be removed, whatever the original is.
+ * Copies a log device, and sets "enable_delete" to "true" and "hidden" to "false" in the copy's section Ndi:
+ * so it is visible and can be removed, whatever the original is. That holds where the original has these as
+ * truth values or not at all; a text of that name stands ahead of them and goes on to count.
  *
  *   CopyFromLogDevice  in  the log device
  *   CopyToLogDevice    in  the new log device
  *
  * PGSP_OK                      copied; that "enable_delete" or "hidden" couldn't be set isn't told, unless
- *                              memory ran out for it, and then there is no copy
+ *                              memory ran out for it, and then there is no copy, though the first of the two
+ *                              may have been announced
  * PGSP_ERR_INVALID_PARAMETERS  an argument is null or empty
  * PGSP_ERR_BUFFER_TOO_SHORT    a path has 260 characters or more
  * PGSP_ERR_CANT_COPY_FILE      there is no such log device, there is one of the new name, which is left as it
  *                              is, or the file can't be made
  *
- * Notifies "LogDevices", the new log device: for each of the two values that is another than the original's,
- * then for the copy itself.
+ * Without a data folder the paths are relative. Notifies "LogDevices", the new log device: for each of the
+ * two values that is another than the original's, then for the copy itself.
  */
 int32_t LogDeviceCopyBL(const wchar_t* CopyFromLogDevice, const wchar_t* CopyToLogDevice);
 
@@ -496,7 +499,8 @@ int32_t LogDeviceCopyBL(const wchar_t* CopyFromLogDevice, const wchar_t* CopyToL
  * Removes a log device with its subdevices, if its parameter "enable_delete" allows it. Log names that are
  * linked to it keep their link.
  *
- *   LogDevice       in  the log device; one whose name holds PGSP_TEMP_LOG_DEVICE needs no permission
+ *   LogDevice       in  the log device, not a subdevice; one whose name holds PGSP_TEMP_LOG_DEVICE needs no
+ *                       permission
  *   AllowStdDelete  in  0 asks "enable_delete" of the section Ndi; any other number goes without asking
  *
  * PGSP_OK                            removed
@@ -508,7 +512,8 @@ int32_t LogDeviceCopyBL(const wchar_t* CopyFromLogDevice, const wchar_t* CopyToL
  * PGSP_ERR_FOLDER_NOT_FOUND          the data folder can't be found, and the permission is needed
  * PGSP_ERR_CANT_DELETE_FILE          there is no such log device, or its file is in use or protected
  *
- * Notifies "LogDevices", the log device, when it was removed.
+ * Without a data folder the path is relative, where no permission is needed. Notifies "LogDevices", the log
+ * device, when it was removed.
  */
 int32_t LogDeviceDelBL(const wchar_t* LogDevice, int32_t AllowStdDelete);
 
@@ -532,20 +537,25 @@ int32_t LogDeviceDelBL(const wchar_t* LogDevice, int32_t AllowStdDelete);
  * PGSP_ERR_INVALID_PARAMETERS       LogDevice is null or empty, or an output is null
  * PGSP_ERR_BUFFER_TOO_SHORT         dwTempLogDevice tells the name's length; the copy has been made all the
  *                                   same and keeps its number, so offer 28 characters at once
- * PGSP_CANT_CREATE_TEMP_LOG_DEVICE  there is no such log device, no number is free, or no file can be made
+ * PGSP_CANT_CREATE_TEMP_LOG_DEVICE  there is no such log device, no number is free, or no file can be made:
+ *                                   the path may be too long
+ *
+ * Without a data folder the paths are relative.
  */
 int32_t LogDeviceCreateTempBL(const wchar_t* LogDevice, wchar_t* TempLogDevice, uint32_t* dwTempLogDevice);
 
 /*
  * Makes a temporary log device from a template, under the first number that is free. Its parameter
- * "DefLogDevice" in the section Ndi holds the template's name as given.
+ * "DefLogDevice" in the section Ndi holds the template's name as given. Makes the folder of log devices where
+ * it isn't there yet.
  *
  *   DefLogDeviceName  in      the template; "Automation-OnlineAccess-LDT-" is put in front of a name without
  *                             it
  *   TempLogDevice     out     buffer for the name
  *   dwTempLogDevice   in/out  its length in characters
  *
- * Results as LogDeviceCreateTempBL, of the template; that "DefLogDevice" couldn't be set isn't told. And
+ * Results as LogDeviceCreateTempBL, of the template; that "DefLogDevice" couldn't be set isn't told, unless
+ * memory ran out for it, and then there is no such log device. And
  * PGSP_ERR_FOLDER_NOT_FOUND         the data folder or the program folder can't be found
  */
 int32_t LogDeviceCreateTempFromDefBL(const wchar_t* DefLogDeviceName, wchar_t* TempLogDevice,
@@ -553,14 +563,15 @@ int32_t LogDeviceCreateTempFromDefBL(const wchar_t* DefLogDeviceName, wchar_t* T
 
 /*
  * Puts a temporary log device in the place of a log device: removes that, copies, removes the temporary one.
- * Any log device can so take the place of any other.
+ * Any log device can so take the place of any other; of one that is to take its own place nothing is left.
  *
  *   TempLogDevice  in  the temporary log device
  *   LogDevice      in  the log device
  *
  * PGSP_OK                      LogDevice is now what TempLogDevice was, which is gone
- * PGSP_ERR_INVALID_PARAMETERS  an argument is null, or makes no path; both empty names are paths
- * PGSP_ERR_BUFFER_TOO_SHORT    a path has 260 characters or more
+ * PGSP_ERR_INVALID_PARAMETERS  an argument is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    LogDevice's path has 260 characters or more, and nothing has changed; or
+ *                              TempLogDevice's, and LogDevice is gone
  * PGSP_ERR_FILE_NOT_FOUND      LogDevice can't be removed, be it that there is none; nothing has changed
  * PGSP_ERR_CANT_COPY_FILE      TempLogDevice can't be copied: LogDevice is gone, TempLogDevice, if there was
  *                              one, is all that is left

@@ -1,6 +1,8 @@
 #include "notify/SendNotification.h"
 
 #include "frame/Arguments.h"
+#include "frame/TemporaryName.h"
+#include "frame/Text.h"
 #include "notify/NotifyRegistration.h"
 #include "trace/TraceStatement.h"
 #include "win/Handle.h"
@@ -18,8 +20,6 @@ namespace norvepa
 
 namespace
 {
-
-constexpr std::wstring_view TemporaryLogDevice = L"PGSP_TEMP_LOG_DEVICE____";
 
 constexpr TraceSource workerSource{"NotifiyThread: ", " BL"};
 
@@ -145,7 +145,7 @@ void SendNotificationBL(const wchar_t* FolderName, const wchar_t* FileName, cons
     {
         return;
     }
-    if (std::wstring_view(FileName).find(TemporaryLogDevice) != std::wstring_view::npos)
+    if (Holds(FileName, TemporaryPrefix))
     {
         NORV_TRACE(source, TraceExit, "<< exclude TempLogDevices");
         return;

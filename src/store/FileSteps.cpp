@@ -16,25 +16,36 @@ namespace norvepa
 namespace
 {
 
-// Neither path is escaped before both are known to be there. The extension is each step's own.
-Result EscapeBoth(const wchar_t* sourcePath, const wchar_t* destinationPath, std::wstring& oldFile,
-                  std::wstring& newFile)
+// The extension is each step's own.
+using ExtensionRule = void (*)(std::wstring& path);
+
+// Neither path is escaped before both are known to be there.
+FilePair EscapeBoth(const wchar_t* sourcePath, const wchar_t* destinationPath, ExtensionRule extend)
 {
     if (IsMissing(sourcePath) || IsMissing(destinationPath))
     {
-        return PGSP_ERR_INVALID_PARAMETERS;
+        return {PGSP_ERR_INVALID_PARAMETERS, {}, {}};
     }
-    if (const Result result = EscapePath(sourcePath, oldFile); result != PGSP_OK)
+    FilePair files{PGSP_OK, {}, {}};
+    files.escaping = EscapePath(sourcePath, files.oldFile);
+    if (files.escaping == PGSP_OK)
     {
-        return result;
+        files.escaping = EscapePath(destinationPath, files.newFile);
     }
-    return EscapePath(destinationPath, newFile);
+    if (files.escaping != PGSP_OK)
+    {
+        return {files.escaping, {}, {}};
+    }
+    extend(files.oldFile);
+    extend(files.newFile);
+    return files;
 }
 
 } // namespace
 
-Deletion::Deletion(const wchar_t* filePath) : m_filePath(filePath), m_escaping(EscapePath(filePath, m_file))
+Deletion::Deletion(const wchar_t* filePath) : m_filePath(filePath), m_escaping(PGSP_OK)
 {
+    m_escaping = EscapePath(filePath, m_file);
     ExtendByEndRule(m_file);
 }
 
@@ -59,10 +70,8 @@ Result Deletion::Run() const noexcept
 
 Copying::Copying(const wchar_t* sourcePath, const wchar_t* destinationPath)
     : m_destinationPath(destinationPath),
-      m_escaping(EscapeBoth(sourcePath, destinationPath, m_oldFile, m_newFile))
+      m_files(EscapeBoth(sourcePath, destinationPath, &ExtendByAnywhereRule))
 {
-    ExtendByAnywhereRule(m_oldFile);
-    ExtendByAnywhereRule(m_newFile);
 }
 
 Result Copying::Run() const noexcept
@@ -70,14 +79,14 @@ Result Copying::Run() const noexcept
     constexpr TraceSource source{"NorvXMLCopyFile: ", "XML"};
 
     NORV_TRACE(source, TraceEntry, ">> destinationPath = %s", TraceToAnsi(m_destinationPath));
-    if (m_escaping != PGSP_OK)
+    if (m_files.escaping != PGSP_OK)
     {
-        return m_escaping;
+        return m_files.escaping;
     }
 
-    NORV_TRACE(source, TraceExit, " : CopyFile >> OldFile = %s, NewFile = %s", TraceToAnsi(m_oldFile.c_str()),
-               TraceToAnsi(m_newFile.c_str()));
-    if (!CopyFileW(m_oldFile.c_str(), m_newFile.c_str(), TRUE))
+    NORV_TRACE(source, TraceExit, " : CopyFile >> OldFile = %s, NewFile = %s",
+               TraceToAnsi(m_files.oldFile.c_str()), TraceToAnsi(m_files.newFile.c_str()));
+    if (!CopyFileW(m_files.oldFile.c_str(), m_files.newFile.c_str(), TRUE))
     {
         const auto error = static_cast<int>(GetLastError());
         NORV_TRACE(source, TraceExit, "ERROR CopyFile: %d", error);
@@ -87,11 +96,8 @@ Result Copying::Run() const noexcept
 }
 
 Renaming::Renaming(const wchar_t* sourcePath, const wchar_t* destinationPath)
-    : m_destinationPath(destinationPath),
-      m_escaping(EscapeBoth(sourcePath, destinationPath, m_oldFile, m_newFile))
+    : m_destinationPath(destinationPath), m_files(EscapeBoth(sourcePath, destinationPath, &ExtendByEndRule))
 {
-    ExtendByEndRule(m_oldFile);
-    ExtendByEndRule(m_newFile);
 }
 
 Result Renaming::Run() const noexcept
@@ -99,13 +105,14 @@ Result Renaming::Run() const noexcept
     constexpr TraceSource source{"NorvXMLRenameFile: ", "XML"};
 
     NORV_TRACE(source, TraceEntry, ">> destinationPath = %s", TraceToAnsi(m_destinationPath));
-    if (m_escaping != PGSP_OK)
+    if (m_files.escaping != PGSP_OK)
     {
-        return m_escaping;
+        return m_files.escaping;
     }
 
-    NORV_TRACE(source, TraceExit, " : RenameFile >> NewFile = %s", TraceToAnsi(m_newFile.c_str()));
-    return _wrename(m_oldFile.c_str(), m_newFile.c_str()) == 0 ? PGSP_OK : PGSP_ERR_CANT_COPY_FILE;
+    NORV_TRACE(source, TraceExit, " : RenameFile >> NewFile = %s", TraceToAnsi(m_files.newFile.c_str()));
+    return _wrename(m_files.oldFile.c_str(), m_files.newFile.c_str()) == 0 ? PGSP_OK
+                                                                           : PGSP_ERR_CANT_COPY_FILE;
 }
 
 Result NorvXMLDeleteFile(const wchar_t* filePath)

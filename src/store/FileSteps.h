@@ -23,7 +23,15 @@ public:
 private:
     const wchar_t* m_filePath;
     std::wstring m_file;
-    Result m_escaping; // fills the one above
+    Result m_escaping;
+};
+
+// The files of a step from one to another, as they are called on disk; empty when a path can't be escaped.
+struct FilePair
+{
+    Result escaping;
+    std::wstring oldFile;
+    std::wstring newFile;
 };
 
 class Copying
@@ -34,14 +42,11 @@ public:
     // As NorvXMLCopyFile.
     [[nodiscard]] Result Run() const noexcept;
 
-    // What the copy is called on disk.
-    [[nodiscard]] const std::wstring& newFile() const noexcept { return m_newFile; }
+    [[nodiscard]] const std::wstring& newFile() const noexcept { return m_files.newFile; }
 
 private:
     const wchar_t* m_destinationPath;
-    std::wstring m_oldFile;
-    std::wstring m_newFile;
-    Result m_escaping; // fills the two above
+    FilePair m_files;
 };
 
 class Renaming
@@ -54,9 +59,7 @@ public:
 
 private:
     const wchar_t* m_destinationPath;
-    std::wstring m_oldFile;
-    std::wstring m_newFile;
-    Result m_escaping; // fills the two above
+    FilePair m_files;
 };
 
 } // namespace norvepa

@@ -4,6 +4,8 @@
 // leaves the scope, and stays for every exit that is told. Left behind it would be listed as a log device or
 // a log name.
 
+#include <windows.h>
+
 #include <cstdio>
 #include <exception>
 #include <string>
@@ -16,6 +18,7 @@ class ProvisionalFile
 public:
     // The path must outlive the object: there may be no memory for a copy.
     explicit ProvisionalFile(const std::wstring& path) noexcept : m_path(path) {}
+    explicit ProvisionalFile(std::wstring&& path) = delete;
     ProvisionalFile(const ProvisionalFile&) = delete;
     ProvisionalFile& operator=(const ProvisionalFile&) = delete;
 
@@ -23,7 +26,8 @@ public:
     {
         if (std::uncaught_exceptions() > m_exceptions)
         {
-            _wremove(m_path.c_str()); // which may not be there
+            SetFileAttributesW(m_path.c_str(), FILE_ATTRIBUTE_NORMAL); // a copy is read-only as its original
+            _wremove(m_path.c_str());                                  // which may not be there
         }
     }
 

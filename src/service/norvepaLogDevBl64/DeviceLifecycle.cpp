@@ -1,8 +1,8 @@
 #include "frame/Arguments.h"
+#include "frame/TemporaryName.h"
 #include "frame/Text.h"
 #include "norvepa.h"
 #include "notify/SendNotification.h"
-#include "service/norvepaLogDevBl64/TemporaryName.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 #include "service/norvepaPgspBl64/norvepaPgspBl64.h"
 #include "store/FileSteps.h"
@@ -42,7 +42,6 @@ int32_t LogDeviceCreateFromDefBL(const wchar_t* DefLogDeviceName, const wchar_t*
             return frame.FolderNotFound("Can not get Corvane OAM path from Program Files");
         }
 
-        // Without a data folder the path is relative; no code tells that here.
         const std::wstring dataFolder = GetDataFolder();
         CreateDirectoryW(LogDeviceFolder(dataFolder).c_str(), nullptr);
         const std::wstring original = TemplateFile(programFolder, name);
@@ -70,7 +69,6 @@ int32_t LogDeviceCopyBL(const wchar_t* CopyFromLogDevice, const wchar_t* CopyToL
             return frame.InvalidParameters();
         }
 
-        // Without a data folder the paths are relative; no code tells that here.
         const std::wstring dataFolder = GetDataFolder();
         const std::wstring original = LogDeviceFile(dataFolder, CopyFromLogDevice);
         const std::wstring file = LogDeviceFile(dataFolder, CopyToLogDevice);
@@ -112,7 +110,6 @@ int32_t LogDeviceDelBL(const wchar_t* LogDevice, int32_t AllowStdDelete)
             }
         }
 
-        // Without a data folder the path is relative; no code tells that here.
         const Result result = NorvXMLDeleteFile(LogDeviceFile(GetDataFolder(), LogDevice).c_str());
         if (result == PGSP_OK)
         {

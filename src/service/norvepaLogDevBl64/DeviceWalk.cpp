@@ -1,7 +1,7 @@
 #include "service/norvepaLogDevBl64/DeviceWalk.h"
 
+#include "frame/TemporaryName.h"
 #include "frame/Text.h"
-#include "service/norvepaLogDevBl64/TemporaryName.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 #include "store/norvxml.h"
 

@@ -1,16 +1,18 @@
 #include "frame/Arguments.h"
+#include "frame/TemporaryName.h"
 #include "norvepa.h"
-#include "service/norvepaLogDevBl64/TemporaryName.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 #include "service/norvepaPgspBl64/norvepaPgspBl64.h"
 #include "store/FileSteps.h"
 #include "store/ProvisionalFile.h"
+#include "store/norvxml.h"
 
 #include <windows.h>
 
 #include <array>
 #include <cstdint>
 #include <cwchar>
+#include <string>
 
 using namespace norvepa;
 
@@ -84,7 +86,6 @@ int32_t LogDeviceCreateTempBL(const wchar_t* LogDevice, wchar_t* TempLogDevice, 
             return frame.InvalidParameters();
         }
 
-        // Without a data folder the paths are relative; no code tells that here.
         const TemporaryDevice made = CopyToFreeNumber(
             [&](const std::wstring& dataFolder) { return LogDeviceFile(dataFolder, LogDevice); });
         return made.name.empty() ? NoneMade(frame)
@@ -142,12 +143,12 @@ int32_t LogDeviceUpdateWithTempBL(const wchar_t* TempLogDevice, const wchar_t* L
             return frame.FolderNotFound("Can not get ProgramData Path");
         }
 
-        // There is no way back from the first step: nothing that needs memory stands between the three.
+        // There is no way back from the first step: nothing of ours that needs memory is between the three.
         const std::wstring temporary = LogDeviceFile(dataFolder, TempLogDevice);
         const std::wstring file = LogDeviceFile(dataFolder, LogDevice);
         const Deletion deletion(file.c_str());
         const Copying copying(temporary.c_str(), file.c_str());
-        const Deletion clearing(temporary.c_str());
+        const Deletion removal(temporary.c_str());
 
         if (const Result result = deletion.Run(); result != PGSP_OK)
         {
@@ -158,7 +159,7 @@ int32_t LogDeviceUpdateWithTempBL(const wchar_t* TempLogDevice, const wchar_t* L
             return frame.Return(result);
         }
         NORV_TRACE(frame, TraceExit, "<< LogDevice updated. TempLogDevice deleted.");
-        return clearing.Run();
+        return removal.Run();
     });
 }
 
@@ -180,6 +181,6 @@ int32_t LogDeviceDelTempBL(const wchar_t* TempLogDevice)
             return frame.FolderNotFound("Can not get ProgramData Path");
         }
 
-        return frame.Return(Deletion(LogDeviceFile(dataFolder, TempLogDevice).c_str()).Run());
+        return frame.Return(NorvXMLDeleteFile(LogDeviceFile(dataFolder, TempLogDevice).c_str()));
     });
 }

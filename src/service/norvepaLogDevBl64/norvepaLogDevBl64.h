@@ -31,7 +31,8 @@ inline constexpr std::array<const wchar_t*, 5> SearchedSections{L"DeviceHeader",
 
 [[nodiscard]] std::wstring LogDeviceFolder(std::wstring_view dataFolder);
 
-// The store path of a log device's file. An empty name gives the folder itself.
+// The store path of a log device's file. An empty name gives the folder itself; without a data folder the
+// path is relative, which not every export tells by a code.
 [[nodiscard]] std::wstring LogDeviceFile(std::wstring_view dataFolder, std::wstring_view logDevice);
 
 // Attributes of the root element, which are never written as parameters.

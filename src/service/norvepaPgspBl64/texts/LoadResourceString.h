@@ -11,8 +11,8 @@ namespace norvepa
 
 // `XmlFile` is a store path, `Parameter` the name, or the name of a block of texts, a backslash and a number.
 // `Language` is a word of two characters; all else, null too, is the user's own. `flag` chooses the section:
-// 0 `UserInterface64`, any other number `UserInterface`. The text goes to the buffer by the output rule; a null
-// buffer that is told to be too short learns the length.
+// 0 `UserInterface64`, any other number `UserInterface`. The text goes to the buffer by the output rule; a
+// null buffer that is told to be too short learns the length.
 //
 // PGSP_OK, PGSP_ERR_BUFFER_TOO_SHORT, PGSP_ERR_FOLDER_NOT_FOUND without a program folder,
 // PGSP_ERR_CANT_LOAD_DLL, PGSP_ERR_CANT_LOAD_RESOURCE, the codes of NorvXMLGetAssemblyLink; and

@@ -1,7 +1,8 @@
 #pragma once
 
 // What sets a temporary log device apart: its name, and nothing else. Deletions take a name for one by less
-// than what it is made of; enumerations and notifications by all of it, each in a way of its own.
+// than what it is made of; enumerations and notifications by all of it, the former at its beginning, the
+// latter anywhere.
 
 #include "frame/Text.h"
 
