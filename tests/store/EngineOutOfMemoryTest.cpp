@@ -40,7 +40,7 @@ INSTANTIATE_TEST_SUITE_P(, EngineOutOfMemoryWrites, testing::ValuesIn(EveryWrite
 
 TEST_P(EngineOutOfMemoryWrites, EverythingOrNothing)
 {
-    const std::string before = LogDeviceFile(WritableContent());
+    const std::string before = WritableFile(WritableContent());
     Result result{};
 
     WithEachEngineCallFailing(
@@ -52,13 +52,17 @@ TEST_P(EngineOutOfMemoryWrites, EverythingOrNothing)
                 return;
             }
             EXPECT_EQ(result, PGSP_OK);
-            EXPECT_EQ(MeaningOfFile(savedFile()), MeaningOf(LogDeviceFile(GetParam().after)));
+            EXPECT_EQ(MeaningOfFile(savedFile()), MeaningOf(WritableFile(GetParam().Whole())));
         });
 }
 
-TEST_P(EngineOutOfMemoryWrites, NothingWhereThereIsNothingOfIt)
+using EngineOutOfMemoryWithoutAPlace = EngineOutOfMemoryWrites;
+
+INSTANTIATE_TEST_SUITE_P(, EngineOutOfMemoryWithoutAPlace, testing::ValuesIn(WritesThatNeedAPlace()), NameOf);
+
+TEST_P(EngineOutOfMemoryWithoutAPlace, NothingWhereThereIsNothingOfIt)
 {
-    const std::string before = LogDeviceFile(XmlContent().Element(L"Other", XmlContent().Int(L"a", L"1")));
+    const std::string before = WritableFile(XmlContent().Element(L"Other", XmlContent().Int(L"c", L"1")));
     GivenFile(before);
     Result result{};
 

@@ -73,6 +73,29 @@ Outcome CallGetParameterAssemblyLink(const wchar_t* filePath)
     return {result, texts};
 }
 
+Outcome CallEnumNdi(const wchar_t* filePath)
+{
+    std::wstring name(Untouched);
+    std::wstring value(Untouched);
+    const Result result = NorvXMLEnumNdi(filePath, 0, &name, &value, 0);
+    return {result, {name, value}};
+}
+
+Outcome CallGetParameterData(const wchar_t* filePath)
+{
+    std::wstring value(Untouched);
+    const Result result = NorvXMLGetParameterData(filePath, L"Unit", &value);
+    return {result, {value}};
+}
+
+Outcome CallEnumParameterData(const wchar_t* filePath)
+{
+    std::wstring name(Untouched);
+    std::wstring value(Untouched);
+    const Result result = NorvXMLEnumParameterData(filePath, 1, &name, &value);
+    return {result, {name, value}};
+}
+
 constexpr const char* WithoutEscaping = "GetParameterAssemblyLink";
 
 } // namespace
@@ -96,28 +119,63 @@ void PrintTo(const Read& read, std::ostream* out)
     *out << read.name;
 }
 
-const std::vector<Read>& EveryRead()
+const std::vector<Read>& PullReads()
 {
     constexpr Result none = PGSP_ERR_PARAM_NOT_FOUND;
+    constexpr Result missing = PGSP_ERR_CANT_LOAD_XML_FILE;
     static const std::vector<Read> reads{
-        {"GetValue", CallGetValue, {PGSP_OK, {L"17"}}, {none, {L""}}},
-        {"GetValueBuffer", CallGetValueBuffer, {PGSP_OK, {L"17"}}, {none, {Untouched}}},
-        {"GetValueRaw", CallGetValueRaw, {PGSP_OK, {L"17"}}, {none, {L""}}},
-        {"GetSubdevValue", CallGetSubdevValue, {PGSP_OK, {L"Größe"}}, {none, {L""}}},
-        {"SubdevExists", CallSubdevExists, {PGSP_OK, {}}, {none, {}}},
+        {"GetValue", CallGetValue, {PGSP_OK, {L"17"}}, {none, {L""}}, missing},
+        {"GetValueBuffer", CallGetValueBuffer, {PGSP_OK, {L"17"}}, {none, {Untouched}}, missing},
+        {"GetValueRaw", CallGetValueRaw, {PGSP_OK, {L"17"}}, {none, {L""}}, missing},
+        {"GetSubdevValue", CallGetSubdevValue, {PGSP_OK, {L"Größe"}}, {none, {L""}}, missing},
+        {"SubdevExists", CallSubdevExists, {PGSP_OK, {}}, {none, {}}, missing},
         {"GetValueBySectionIndex",
          CallGetValueBySectionIndex,
          {PGSP_OK, {L"ParameterInt", L"DeviceHeader"}},
-         {none, {L"", L""}}},
+         {none, {L"", L""}},
+         missing},
         {"GetAssemblyLink",
          CallGetAssemblyLink,
          {PGSP_OK, {L"Texte.dll", L"%commonpath%", L"4020", L"Auental.Texte"}},
-         {none, {L"", L"", L"", L""}}},
+         {none, {L"", L"", L"", L""}},
+         missing},
         {WithoutEscaping,
          CallGetParameterAssemblyLink,
          {PGSP_OK, {L"Seiten.dll", L"%commonpath%", L"ShowPage"}},
-         {none, {L"", L"", L""}}},
+         {none, {L"", L"", L""}},
+         missing},
     };
+    return reads;
+}
+
+const std::vector<Read>& DocumentReads()
+{
+    constexpr Result none = PGSP_ERR_PARAM_NOT_FOUND;
+    constexpr Result end = PGSP_ERR_NO_MORE_ITEMS;
+    constexpr Result missing = PGSP_ERR_FILE_NOT_FOUND;
+    static const std::vector<Read> reads{
+        {"EnumNdi",
+         CallEnumNdi,
+         {PGSP_OK, {L"PropSheet", L"Seiten.dll,ShowPage"}},
+         {end, {Untouched, Untouched}},
+         missing},
+        {"GetParameterData", CallGetParameterData, {PGSP_OK, {L"17"}}, {none, {Untouched}}, missing},
+        {"EnumParameterData",
+         CallEnumParameterData,
+         {PGSP_OK, {L"a", L"Größe"}},
+         {none, {Untouched, Untouched}},
+         missing},
+    };
+    return reads;
+}
+
+const std::vector<Read>& EveryRead()
+{
+    static const std::vector<Read> reads = [] {
+        std::vector<Read> all = PullReads();
+        all.insert(all.end(), DocumentReads().begin(), DocumentReads().end());
+        return all;
+    }();
     return reads;
 }
 

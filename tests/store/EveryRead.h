@@ -1,7 +1,7 @@
 #pragma once
 
-// The eight reads as one table, for what they have in common: each on the same document, in which it
-// finds something.
+// The reads as one table, for what they have in common: each on the same document, in which it finds
+// something. Eight of them pull, the others load the document as a whole.
 
 #include "frame/Result.h"
 #include "support/XmlFiles.h"
@@ -32,14 +32,17 @@ struct Read
     Outcome (*call)(const wchar_t* filePath);
     Outcome found;    // in the document
     Outcome notFound; // where the document says nothing
+    Result missing;   // where there is no file
 
-    // As `notFound`, with the outputs as they were before.
+    // The outputs as they were before.
     [[nodiscard]] Outcome Refused(Result result) const;
 };
 
 void PrintTo(const Read& read, std::ostream* out);
 
-[[nodiscard]] const std::vector<Read>& EveryRead();     // all eight
+[[nodiscard]] const std::vector<Read>& EveryRead();
+[[nodiscard]] const std::vector<Read>& PullReads();
+[[nodiscard]] const std::vector<Read>& DocumentReads();
 [[nodiscard]] const std::vector<Read>& EscapingReads(); // those that escape the name they are given
 [[nodiscard]] std::string NameOf(const testing::TestParamInfo<Read>& info);
 

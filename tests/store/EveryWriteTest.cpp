@@ -25,29 +25,33 @@ protected:
     // What is said by a document that holds this as well, all around what is written to.
     void ExpectKept(std::string_view nodes) const
     {
-        const auto document = [&](const XmlContent& content) {
-            return LogDeviceFile(XmlContent().Raw(nodes).Raw(content.utf8()).Raw(nodes));
+        const auto document = [&](const XmlContent& content, const XmlContent& appended = {}) {
+            return WritableFile(XmlContent().Raw(nodes).Raw(content.utf8()).Raw(nodes).Raw(appended.utf8()));
         };
         GivenFile(document(WritableContent()));
 
         EXPECT_EQ(Run(path()), PGSP_OK);
 
-        EXPECT_EQ(MeaningOfFile(savedFile()), MeaningOf(document(GetParam().after)));
+        EXPECT_EQ(MeaningOfFile(savedFile()), MeaningOf(document(GetParam().after, GetParam().appended)));
     }
 
     // What a path means, and the name, codes included, that a temporary file is made from.
     void ExpectWritten(const std::wstring& path, const std::wstring& name, const std::wstring& file) const
     {
-        WriteBytes(folder() / file, LogDeviceFile(WritableContent()));
+        WriteBytes(folder() / file, WritableFile(WritableContent()));
 
         EXPECT_EQ(Run(folder() / path), PGSP_OK);
 
         EXPECT_EQ(MeaningOfFile(SavedFile(folder() / name, folder() / file)),
-                  MeaningOf(LogDeviceFile(GetParam().after)));
+                  MeaningOf(WritableFile(GetParam().Whole())));
     }
 };
 
 INSTANTIATE_TEST_SUITE_P(, EveryWriteTest, testing::ValuesIn(EveryWrite()), NameOf);
+
+using WriteWithoutAPlace = EveryWriteTest;
+
+INSTANTIATE_TEST_SUITE_P(, WriteWithoutAPlace, testing::ValuesIn(WritesThatNeedAPlace()), NameOf);
 
 TEST_P(EveryWriteTest, KeepsComments)
 {
@@ -68,14 +72,14 @@ TEST_P(EveryWriteTest, KeepsOtherNamespaces)
 TEST_P(EveryWriteTest, KeepsWhatStandsOutsideOfTheRoot)
 {
     const auto document = [](const XmlContent& content) {
-        return LogDeviceFile(content).insert(XmlDeclaration.size(), "<!--head--><?tool one?>") +
+        return WritableFile(content).insert(XmlDeclaration.size(), "<!--head--><?tool one?>") +
                "<!-- NorvepaBl64x configuration store --><?tool two?>";
     };
     GivenFile(document(WritableContent()));
 
     EXPECT_EQ(Run(path()), PGSP_OK);
 
-    EXPECT_EQ(MeaningOfFile(savedFile()), MeaningOf(document(GetParam().after)));
+    EXPECT_EQ(MeaningOfFile(savedFile()), MeaningOf(document(GetParam().Whole())));
 }
 
 TEST_P(EveryWriteTest, EscapesTheName)
@@ -91,7 +95,7 @@ TEST_P(EveryWriteTest, ExtendsAPathThatHoldsNoExtensionAnywhere)
     ExpectWritten(L"d.XML", L"d.XML", L"d.XML.xml");
 }
 
-TEST_P(EveryWriteTest, FindsNoElementBehindAPrefix)
+TEST_P(WriteWithoutAPlace, FindsNoElementBehindAPrefix)
 {
     const std::string plain = "<LogDevice>" + WritableContent().utf8() + "</LogDevice>";
     const std::string prefixed = std::regex_replace(plain, std::regex("<(/?)"), "<$1d:");
@@ -104,7 +108,7 @@ TEST_P(EveryWriteTest, FindsNoElementBehindAPrefix)
     EXPECT_THAT(FileNames(folder().path()), testing::SizeIs(1));
 }
 
-TEST_P(EveryWriteTest, FindsNothingInARootAlone)
+TEST_P(WriteWithoutAPlace, FindsNothingInARootAlone)
 {
     GivenFile("<LogDevice/>");
 
@@ -114,10 +118,34 @@ TEST_P(EveryWriteTest, FindsNothingInARootAlone)
     EXPECT_THAT(FileNames(folder().path()), testing::SizeIs(1));
 }
 
+TEST_P(EveryWriteTest, RefusesAPathThatIsNullOrEmpty)
+{
+    EXPECT_EQ(GetParam().call(nullptr), PGSP_ERR_INVALID_PARAMETERS);
+    EXPECT_EQ(GetParam().call(L""), PGSP_ERR_INVALID_PARAMETERS);
+}
+
+TEST_P(EveryWriteTest, MakesNoFileThatIsMissing)
+{
+    EXPECT_EQ(Run(path()), PGSP_ERR_FILE_NOT_FOUND);
+
+    EXPECT_THAT(FileNames(folder().path()), testing::IsEmpty());
+}
+
+TEST_P(EveryWriteTest, LeavesAMalformedFileAlone)
+{
+    const std::string malformed = WritableFile(WritableContent()) + "<LogDevice/>";
+    GivenFile(malformed);
+
+    EXPECT_EQ(Run(path()), PGSP_ERR_CANT_LOAD_XML_FILE);
+
+    EXPECT_EQ(Bytes(), malformed);
+    EXPECT_THAT(FileNames(folder().path()), testing::SizeIs(1));
+}
+
 TEST_P(EveryWriteTest, DoesNotTellThatTheFileCouldNotBeSaved)
 {
     WriteBytes(savedFile(), "left over");
-    GivenFile(LogDeviceFile(WritableContent()));
+    GivenFile(WritableFile(WritableContent()));
     const std::string before = ReadBytes(savedFile());
     const OpenFile inUse(savedFile());
 

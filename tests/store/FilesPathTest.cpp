@@ -47,6 +47,29 @@ const std::vector<Operation> Operations{
     {"SetSubdevValue",
      [](const wchar_t* path) { return NorvXMLSetSubdevValue(path, L"d", L"p", L"1", L"int"); }},
     {"DelValue", [](const wchar_t* path) { return NorvXMLDelValue(path, L"s", L"p"); }},
+    {"SetNdi",
+     [](const wchar_t* path) { return NorvXMLSetNdi(path, L"p", L"a", nullptr, nullptr, nullptr, 0); }},
+    {"DelNdi", [](const wchar_t* path) { return NorvXMLDelNdi(path, L"p", 0); }},
+    {"SetParameterData",
+     [](const wchar_t* path) { return NorvXMLSetParameterData(path, L"p", L"1", L"int"); }},
+    {"DelParameterData", [](const wchar_t* path) { return NorvXMLDelParameterData(path, L"p"); }},
+    {"EnumNdi",
+     [](const wchar_t* path) {
+         std::wstring name;
+         std::wstring value;
+         return NorvXMLEnumNdi(path, 0, &name, &value, 0);
+     }},
+    {"GetParameterData",
+     [](const wchar_t* path) {
+         std::wstring value;
+         return NorvXMLGetParameterData(path, L"p", &value);
+     }},
+    {"EnumParameterData",
+     [](const wchar_t* path) {
+         std::wstring name;
+         std::wstring value;
+         return NorvXMLEnumParameterData(path, 0, &name, &value);
+     }},
 };
 
 class FilesPathTest : public testing::TestWithParam<Operation>

@@ -1,3 +1,4 @@
+#include "store/EveryWrite.h"
 #include "store/WriteScene.h"
 
 #include <windows.h>
@@ -78,10 +79,10 @@ TEST_F(FilesSizeTest, EveryWriterRefusesAFileThatIsTooLarge)
 {
     GivenFileOf(10'000'001);
 
-    EXPECT_EQ(Set(L"LocalSettings", L"a", L"1", L"int"), PGSP_ERR_CANT_LOAD_XML_FILE);
-    EXPECT_EQ(SetHeader(L"a", L"1"), PGSP_ERR_CANT_LOAD_XML_FILE);
-    EXPECT_EQ(SetSubdev(L"A", L"a", L"1", L"int"), PGSP_ERR_CANT_LOAD_XML_FILE);
-    EXPECT_EQ(Delete(L"LocalSettings", L"a"), PGSP_ERR_CANT_LOAD_XML_FILE);
+    for (const Write& write : EveryWrite())
+    {
+        EXPECT_EQ(write.call(path().c_str()), PGSP_ERR_CANT_LOAD_XML_FILE) << write.name;
+    }
 }
 
 TEST_F(FilesSizeTest, TheLargestFileIsStillWritten)

@@ -24,14 +24,14 @@ TEST_F(ParallelReads, OfOneFileFindWhatASingleOneFinds)
     Together(Threads, [&](int) {
         for (int round = 0; round < Rounds; ++round)
         {
-            for (const Read& read : EveryRead())
+            for (const Read& read : PullReads())
             {
                 ++(read.call(file.c_str()) == read.found ? found : different);
             }
         }
     });
 
-    EXPECT_EQ(found, Threads * Rounds * static_cast<int>(EveryRead().size()));
+    EXPECT_EQ(found, Threads * Rounds * static_cast<int>(PullReads().size()));
     EXPECT_EQ(different, 0);
 }
 

@@ -110,5 +110,34 @@ TEST_F(ReadArguments, GetParameterAssemblyLinkNeedsEachOutputAndNothingElse)
               PGSP_ERR_CANT_LOAD_XML_FILE);
 }
 
+TEST_F(ReadArguments, EnumNdiNeedsBothOutputs)
+{
+    std::wstring other(Before);
+
+    EXPECT_EQ(NorvXMLEnumNdi(m_path, 0, nullptr, &m_out, 0), Bad);
+    EXPECT_EQ(NorvXMLEnumNdi(m_path, 0, &m_out, nullptr, 0), Bad);
+    EXPECT_EQ(NorvXMLEnumNdi(m_path, 0, &m_out, &other, 0), PGSP_ERR_BUFFER_TOO_SHORT);
+
+    EXPECT_EQ(other, Before);
+}
+
+TEST_F(ReadArguments, GetParameterDataNeedsNameAndOutputAndTakesAnEmptyName)
+{
+    EXPECT_EQ(NorvXMLGetParameterData(m_path, nullptr, &m_out), Bad);
+    EXPECT_EQ(NorvXMLGetParameterData(m_path, L"p", nullptr), Bad);
+    EXPECT_EQ(NorvXMLGetParameterData(m_path, L"", &m_out), PGSP_ERR_BUFFER_TOO_SHORT);
+}
+
+TEST_F(ReadArguments, EnumParameterDataNeedsBothOutputs)
+{
+    std::wstring other(Before);
+
+    EXPECT_EQ(NorvXMLEnumParameterData(m_path, 0, nullptr, &m_out), Bad);
+    EXPECT_EQ(NorvXMLEnumParameterData(m_path, 0, &m_out, nullptr), Bad);
+    EXPECT_EQ(NorvXMLEnumParameterData(m_path, 0, &m_out, &other), PGSP_ERR_BUFFER_TOO_SHORT);
+
+    EXPECT_EQ(other, Before);
+}
+
 } // namespace
 } // namespace norvepa::test

@@ -23,6 +23,16 @@ Answer Refused(Result result)
     return {result, std::wstring(Before)};
 }
 
+void PrintTo(const Item& item, std::ostream* out)
+{
+    *out << item.result << " \"" << ToUtf8(item.name) << "\" \"" << ToUtf8(item.value) << '"';
+}
+
+Item NoItem(Result result)
+{
+    return {result, std::wstring(Before), std::wstring(Before)};
+}
+
 std::wstring ReadScene::File(std::string_view bytes, std::wstring_view name) const
 {
     const std::wstring path = m_folder / name;

@@ -32,6 +32,20 @@ void PrintTo(const Answer& answer, std::ostream* out);
 [[nodiscard]] Answer NotFound();             // and the output is empty
 [[nodiscard]] Answer Refused(Result result); // and the output is as it was
 
+// The same of an enumeration of pairs.
+struct Item
+{
+    Result result;
+    std::wstring name;
+    std::wstring value;
+
+    bool operator==(const Item&) const = default;
+};
+
+void PrintTo(const Item& item, std::ostream* out);
+
+[[nodiscard]] Item NoItem(Result result); // and the outputs are as they were
+
 class ReadScene : public testing::Test
 {
 protected:

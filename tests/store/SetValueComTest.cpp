@@ -133,10 +133,17 @@ TEST_F(SetValueComTest, TheOtherOperationsMakeNoAttempt)
 
     const Left subdevice = After([&] { return SetSubdev(L"A", L"a", L"1", L"int"); });
     const Left deletion = After([&] { return Delete(L"LocalSettings", L"a"); });
+    const Left link =
+        After([&] { return NorvXMLSetNdi(path().c_str(), L"a", L"b", nullptr, nullptr, nullptr, 0); });
+    const Left linkDeletion = After([&] { return NorvXMLDelNdi(path().c_str(), L"a", 0); });
+    const Left data = After([&] { return NorvXMLSetParameterData(path().c_str(), L"a", L"2", L"int"); });
+    const Left dataDeletion = After([&] { return NorvXMLDelParameterData(path().c_str(), L"a"); });
 
-    EXPECT_EQ(subdevice.result, PGSP_ERR_CANT_CREATE_XML_ENGINE);
-    EXPECT_EQ(deletion.result, PGSP_ERR_CANT_CREATE_XML_ENGINE);
-    EXPECT_FALSE(subdevice.withCom || deletion.withCom);
+    for (const Left& left : {subdevice, deletion, link, linkDeletion, data, dataDeletion})
+    {
+        EXPECT_EQ(left.result, PGSP_ERR_CANT_CREATE_XML_ENGINE);
+        EXPECT_FALSE(left.withCom);
+    }
     EXPECT_EQ(Bytes(), before);
 }
 

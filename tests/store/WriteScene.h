@@ -17,10 +17,13 @@ namespace norvepa::test
 class WriteScene : public testing::Test
 {
 protected:
+    // A file of this name, which may have a folder of its own.
+    explicit WriteScene(std::wstring_view name = L"Kesselhaus") : m_name(name) {}
+
     void GivenFile(std::string_view bytes) const { WriteBytes(file(), bytes); }
 
     // The path as the store takes it, without extension, and the file that it means.
-    [[nodiscard]] std::wstring path() const { return m_folder / L"Kesselhaus"; }
+    [[nodiscard]] std::wstring path() const { return m_folder / m_name; }
     [[nodiscard]] std::wstring file() const { return path() + L".xml"; }
     [[nodiscard]] const TemporaryFolder& folder() const { return m_folder; }
 
@@ -37,6 +40,7 @@ protected:
     [[nodiscard]] Result Delete(const wchar_t* section, const wchar_t* parameter) const;
 
 private:
+    std::wstring m_name;
     TemporaryFolder m_folder;
 };
 

@@ -29,4 +29,14 @@ private:
     DebuggerStrings m_debugger;
 };
 
+// The lines that an operation, a callable, leaves at the levels of this mask.
+template <typename Operation>
+[[nodiscard]] std::vector<std::string> LinesOf(const Operation& operation,
+                                               const std::wstring& level = AllTraceLevels)
+{
+    const DebuggerTrace trace(level);
+    static_cast<void>(operation());
+    return trace.lines();
+}
+
 } // namespace norvepa::test

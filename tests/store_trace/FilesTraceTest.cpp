@@ -19,16 +19,6 @@ class FilesTrace : public WriteScene
 protected:
     [[nodiscard]] std::string Narrow(const std::wstring& name) const { return ToUtf8(folder() / name); }
 
-    // The lines that an operation leaves, at one level or at all of them.
-    template <typename Operation>
-    [[nodiscard]] static std::vector<std::string> LinesOf(const Operation& operation,
-                                                          const std::wstring& level = AllTraceLevels)
-    {
-        const DebuggerTrace trace(level);
-        static_cast<void>(operation());
-        return trace.lines();
-    }
-
 private:
     RedirectedRegistry m_registry;
 };

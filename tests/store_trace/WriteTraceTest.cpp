@@ -17,23 +17,6 @@ using testing::IsEmpty;
 // What the writes tell, and at which level.
 class WriteTrace : public WriteScene
 {
-protected:
-    // The lines that a write leaves, at one level or at all of them.
-    template <typename Operation>
-    [[nodiscard]] static std::vector<std::string> LinesOf(const Operation& operation,
-                                                          const std::wstring& level = AllTraceLevels)
-    {
-        const DebuggerTrace trace(level);
-        static_cast<void>(operation());
-        return trace.lines();
-    }
-
-    // A line's text, whosever it is.
-    [[nodiscard]] static std::string TextOf(const std::string& line)
-    {
-        return line.substr(std::min(line.size(), line.find(": ") + 3));
-    }
-
 private:
     RedirectedRegistry m_registry;
 };
@@ -104,43 +87,109 @@ TEST_F(WriteTrace, OfADeletionBesideTellsTheLeftoversAlone)
                     TraceLine("NorvXMLDeleteFile: ", "PGSP_ERR_CANT_DELETE_FILE")));
 }
 
+TEST_F(WriteTrace, OfALinkThatIsSetIsSilent)
+{
+    GivenFile(LogDeviceFile({}));
+    const auto set = [this](const wchar_t* assembly) {
+        return [this, assembly] {
+            return NorvXMLSetNdi(path().c_str(), L"DescText", assembly, nullptr, nullptr, L"7", 0);
+        };
+    };
+
+    EXPECT_THAT(LinesOf(set(L"A.dll")), IsEmpty());
+    EXPECT_THAT(LinesOf(set(L"A.dll")), IsEmpty());
+    EXPECT_THAT(LinesOf(set(L"B.dll")), IsEmpty());
+    EXPECT_THAT(LinesOf(set(L"<")), IsEmpty());
+    EXPECT_THAT(LinesOf(set(L"\x01")), IsEmpty());
+}
+
+TEST_F(WriteTrace, OfALinkThatIsRemovedTellsTheLeftoversAlone)
+{
+    WriteBytes(folder() / L"a#25.xml",
+               LogDeviceFile(XmlContent().Element(L"UserInterface64",
+                                                  XmlContent().ParameterAssemblyLink({.name = L"Seite"}))));
+    const auto remove = [this](const wchar_t* parameter) {
+        return [this, parameter] { return NorvXMLDelNdi((folder() / L"a%").c_str(), parameter, 0); };
+    };
+
+    EXPECT_THAT(
+        LinesOf(remove(L"Seite")),
+        ElementsAre(TraceLine("NorvXMLDeleteFile: ", ">> filePath = " + ToUtf8(folder() / L"a%(temp)")),
+                    TraceLine("NorvXMLDeleteFile: ", ">> _wremove = " + ToUtf8(folder() / L"a#25(temp).xml")),
+                    TraceLine("NorvXMLDeleteFile: ", "PGSP_ERR_CANT_DELETE_FILE")));
+    EXPECT_THAT(LinesOf(remove(L"Andere")), IsEmpty());
+}
+
+TEST_F(WriteTrace, OfParameterDataIsSilent)
+{
+    GivenFile(LogDeviceFile({}));
+    const auto set = [this](const wchar_t* value) {
+        return [this, value] { return NorvXMLSetParameterData(path().c_str(), L"a", value, L"int"); };
+    };
+    const auto remove = [this] { return NorvXMLDelParameterData(path().c_str(), L"a"); };
+
+    EXPECT_THAT(LinesOf(set(L"1")), IsEmpty());
+    EXPECT_THAT(LinesOf(set(L"1")), IsEmpty());
+    EXPECT_THAT(LinesOf(set(L"2")), IsEmpty());
+    EXPECT_THAT(LinesOf(set(L"\x01")), IsEmpty());
+    EXPECT_THAT(LinesOf(remove), IsEmpty());
+    EXPECT_THAT(LinesOf(remove), IsEmpty());
+}
+
+// What the writes have in common, each under its own tag.
 class EveryWriteTrace : public WriteTrace, public testing::WithParamInterface<Write>
 {
 protected:
-    // The texts of a write's lines.
-    [[nodiscard]] std::vector<std::string> Texts(const std::wstring& level = AllTraceLevels) const
+    [[nodiscard]] std::vector<std::string> Lines(const std::wstring& level = AllTraceLevels) const
     {
-        std::vector<std::string> texts = LinesOf([this] { return GetParam().call(path().c_str()); }, level);
-        for (std::string& text : texts)
-        {
-            text = TextOf(text);
-        }
-        return texts;
+        return LinesOf([this] { return GetParam().call(path().c_str()); }, level);
     }
 };
 
+using TellingWriteTrace = EveryWriteTrace;
+using SilentWriteTrace = EveryWriteTrace;
+
 INSTANTIATE_TEST_SUITE_P(, EveryWriteTrace, testing::ValuesIn(EveryWrite()), NameOf);
-
-TEST_P(EveryWriteTrace, TellsAFileThatCannotBeLoadedAtTheEntryLevel)
-{
-    GivenFile("<a></b>");
-    const std::string text = "<< Return PGSP_ERR_CANT_LOAD_XML_FILE (" + ToUtf8(file()) + ") ";
-
-    EXPECT_THAT(Texts(), ElementsAre(text));
-    EXPECT_THAT(Texts(L"0x8"), ElementsAre(text));
-}
+INSTANTIATE_TEST_SUITE_P(, TellingWriteTrace, testing::ValuesIn(TellingWrites()), NameOf);
+INSTANTIATE_TEST_SUITE_P(, SilentWriteTrace, testing::ValuesIn(SilentWrites()), NameOf);
 
 TEST_P(EveryWriteTrace, LeavesAMissingFileToTheSizeGuard)
 {
-    EXPECT_THAT(Texts(), ElementsAre("Error: FILE_NOT_FOUND : " + ToUtf8(file()) + " "));
+    EXPECT_THAT(Lines(),
+                ElementsAre(TraceLine("CheckFileSize: ", "Error: FILE_NOT_FOUND : " + ToUtf8(file()))));
 }
 
-TEST_P(EveryWriteTrace, TellsAMissingEngineAtTheInformationLevel)
+TEST_P(TellingWriteTrace, TellsAFileThatCannotBeLoadedAtTheEntryLevel)
+{
+    GivenFile("<a></b>");
+    const std::string line =
+        TraceLine(GetParam().tag, "<< Return PGSP_ERR_CANT_LOAD_XML_FILE (" + ToUtf8(file()) + ")");
+
+    EXPECT_THAT(Lines(), ElementsAre(line));
+    EXPECT_THAT(Lines(L"0x8"), ElementsAre(line));
+}
+
+TEST_P(TellingWriteTrace, TellsAMissingEngineAtTheInformationLevel)
+{
+    const BrokenEngine engine({REGDB_E_CLASSNOTREG});
+    const std::string line = TraceLine(GetParam().tag, "ERROR : CreateInstance");
+
+    EXPECT_THAT(Lines(), ElementsAre(line));
+    EXPECT_THAT(Lines(L"0x40"), ElementsAre(line));
+}
+
+TEST_P(SilentWriteTrace, TellsNothingOfAFileThatCannotBeLoaded)
+{
+    GivenFile("<a></b>");
+
+    EXPECT_THAT(Lines(), IsEmpty());
+}
+
+TEST_P(SilentWriteTrace, TellsNothingOfAMissingEngine)
 {
     const BrokenEngine engine({REGDB_E_CLASSNOTREG});
 
-    EXPECT_THAT(Texts(), ElementsAre("ERROR : CreateInstance "));
-    EXPECT_THAT(Texts(L"0x40"), ElementsAre("ERROR : CreateInstance "));
+    EXPECT_THAT(Lines(), IsEmpty());
 }
 
 } // namespace
