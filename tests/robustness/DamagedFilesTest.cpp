@@ -21,21 +21,32 @@ const std::set<std::int32_t> Codes{PGSP_OK,
                                    PGSP_ERR_BUFFER_TOO_SHORT,
                                    PGSP_ERR_NO_MORE_ITEMS,
                                    PGSP_ERR_LOG_DEVICE_NOT_EXISTS,
+                                   PGSP_ERR_LOG_DEVICE_NOT_DELETABLE,
                                    PGSP_ERR_PARAMETER_DEFAULT_NOT_FOUND,
                                    PGSP_NOT_IN_LIST,
                                    PGSP_SET_VAL_LESS_THAN_MIN,
                                    PGSP_SET_VAL_BIGGER_THAN_MAX,
                                    PGSP_NOT_IN_STEP,
+                                   PGSP_ERR_CANT_LOAD_DLL,
                                    PGSP_ERR_FILE_NOT_FOUND,
                                    PGSP_ERR_INVALID_FILE,
                                    PGSP_ERR_CANT_LOAD_XML_FILE,
                                    PGSP_ERR_PARAM_NOT_FOUND,
                                    PGSP_ERR_CANT_SET_VALUE,
-                                   PGSP_ERR_SAME_VALUE};
+                                   PGSP_ERR_SAME_VALUE,
+                                   PGSP_ERR_CANT_LOAD_RESOURCE};
 
 bool IsList(const Question& question)
 {
     return std::string_view(question.name).ends_with("GetValueListBL");
+}
+
+void WriteUnlessThere(const std::wstring& path, const std::string& bytes)
+{
+    if (ReadBytes(path) != bytes)
+    {
+        WriteBytes(path, bytes);
+    }
 }
 
 // In each test other damage, to one file after the other. What the library remembers of a file for good it
@@ -58,7 +69,7 @@ protected:
         for (std::size_t i = 0; i < paths.size(); ++i)
         {
             const bool isHit = number % paths.size() == i;
-            WriteBytes(paths[i], isHit ? Damaged(whole[i], number) : whole[i]);
+            WriteUnlessThere(paths[i], isHit ? Damaged(whole[i], number) : whole[i]);
         }
         DropWhatIsKept();
     }
@@ -75,8 +86,9 @@ protected:
         }
     }
 
-    const std::array<std::wstring, 4> paths{roots.logDevice(L"Presse"), roots.logName(L"Pumpe"),
-                                            roots.board(L"AFK110"), roots.protocol(L"MPI")};
+    const std::array<std::wstring, 6> paths{roots.logDevice(L"Presse"), roots.logName(L"Pumpe"),
+                                            roots.logName(L"Warte"),    roots.board(L"AFK110"),
+                                            roots.protocol(L"MPI"),     roots.deviceTemplate(L"MPI-AFK110")};
     std::vector<std::string> whole;
 };
 
@@ -121,19 +133,19 @@ TEST_P(DamagedFiles, AnswerTheSameWhenTheyAreAskedAgain)
 TEST_P(DamagedFiles, AreChangedOrLeftAsTheyAre)
 {
     ForEachDamage([this] {
+        Files before = StoredFiles();
         for (const Question& question : Changes())
         {
             SCOPED_TRACE(question.name);
-            const Files before = StoredFiles();
-            std::fprintf(stderr, "%s\n", question.name);
-            std::fflush(stderr);
             const Outcome outcome = Ask(question);
+            const Files after = StoredFiles();
 
             EXPECT_THAT(Codes, Contains(outcome.result));
             if (outcome.result != PGSP_OK)
             {
-                EXPECT_EQ(StoredFiles(), before);
+                EXPECT_EQ(after, before);
             }
+            before = after;
         }
     });
 }

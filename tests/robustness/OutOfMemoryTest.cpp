@@ -129,6 +129,40 @@ TEST_P(OutOfMemory, LeavesALinkAsItWasOrMade)
     });
 }
 
+// A copy whose name never reached its caller would keep its number for good.
+TEST_P(OutOfMemory, TellsTheNameOfATemporaryDeviceOrMakesNone)
+{
+    const std::vector<Question> makers{
+        {"of a log device",
+         [](Outputs& o) { return LogDeviceCreateTempBL(L"Presse", o.first.data(), &o.firstLength); }},
+        {"of a template", [](Outputs& o) {
+             return LogDeviceCreateTempFromDefBL(L"MPI-AFK110", o.first.data(), &o.firstLength);
+         }}};
+    const Files before = StoredFiles();
+    const std::wstring made = L"LogDevices\\PGSP_TEMP_LOG_DEVICE____000.xml";
+    const auto prepare = [&] { WriteStore(); };
+
+    for (const Question& make : makers)
+    {
+        SCOPED_TRACE(make.name);
+        AskWithEachAllocationFailing(make, GetParam(), prepare, [&](const Outcome& outcome) {
+            Files after = StoredFiles();
+            if (outcome.result == PGSP_OK)
+            {
+                EXPECT_STREQ(outcome.outputs.first.c_str(), L"PGSP_TEMP_LOG_DEVICE____000");
+                EXPECT_EQ(outcome.outputs.firstLength, 27);
+                EXPECT_EQ(after.erase(made), 1);
+            }
+            else
+            {
+                EXPECT_EQ(outcome.result, OutOfMemoryCode);
+                EXPECT_EQ(outcome.outputs, Outputs());
+            }
+            EXPECT_EQ(after, before);
+        });
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(OfBothKinds, OutOfMemory, Values(Shortage::Passing, Shortage::Lasting));
 
 } // namespace

@@ -10,9 +10,13 @@
 namespace norvepa::test
 {
 
+// The flag for the section UserInterface, where the store's files have their links.
+inline constexpr std::int32_t Links = 1;
+
 [[nodiscard]] const std::vector<Question>& Reads();
 
-// Those that change one file in one step; the two that take two steps have tests of their own.
+// Those that are made whole or not at all; the two that may end between two steps have tests of their own.
+// The last one removes what most of the others change.
 [[nodiscard]] const std::vector<Question>& Changes();
 
 } // namespace norvepa::test

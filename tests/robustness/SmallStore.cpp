@@ -16,14 +16,26 @@ namespace fs = std::filesystem;
 namespace
 {
 
-XmlContent DeviceContent()
+// A number of the sample store's texts, under the name that all files have it.
+Link LinkToText(std::wstring_view number)
 {
+    return {L"DescText", L"AuentalTexte.dll", L"%commonpath%", number};
+}
+
+XmlContent DeviceContent(std::wstring_view unit)
+{
+    const Link page{
+        .name = L"PropSheet", .assembly = L"Seiten.dll", .path = L"%commonpath%", .function = L"Zeige"};
     return XmlContent()
-        .Element(L"DeviceHeader", XmlContent().Int(L"Unit", L"7"))
+        .Element(L"DeviceHeader", XmlContent().Int(L"Unit", unit))
         .Element(L"LocalSettings", XmlContent().Int(L"Stufe", L"3").Text(L"Ort", L"Halle 2"))
         .Element(L"Bindings",
                  XmlContent().Element(L"Subdevices",
-                                      XmlContent().Subdevice(L"Achse", XmlContent().Int(L"Weg", L"5"))));
+                                      XmlContent().Subdevice(L"Achse", XmlContent().Int(L"Weg", L"5"))))
+        .Element(L"Ndi", XmlContent().Bool(L"enable_delete", L"true").Text(L"Typ", L"einstufig"))
+        .Element(
+            L"UserInterface",
+            XmlContent().Text(L"Titel", L"Presse").Resource(LinkToText(L"1005")).ParameterAssemblyLink(page));
 }
 
 XmlContent ProtocolContent()
@@ -49,7 +61,29 @@ XmlContent BoardContent()
     return XmlContent()
         .Element(L"Install", XmlContent().Text(L"Treiber", L"afk110x"))
         .Element(L"NotSupported", XmlContent().ValueCollection({L"slot", L"gap"}))
-        .Element(L"Constraints", XmlContent().ParamSection(L"Stufe", stufe));
+        .Element(L"Constraints", XmlContent().ParamSection(L"Stufe", stufe))
+        .Element(L"UserInterface", XmlContent().Resource(LinkToText(L"3000")));
+}
+
+XmlContent NameContent()
+{
+    return XmlContent()
+        .Element(L"Parameters", XmlContent().Text(L"Ort", L"Halle 1"))
+        .Element(L"UserInterface", XmlContent().Resource(LinkToText(L"1008")));
+}
+
+// What users and tools have written: all that the library may change.
+Files Beginning()
+{
+    return {
+        {L"LogDevices\\Ofen.xml", LogDeviceFile(DeviceContent(L"7"))},
+        {L"LogDevices\\Presse.xml", LogDeviceFile(DeviceContent(L"7"))},
+        {L"LogDevices\\PGSP_TEMP_LOG_DEVICE____007.xml", LogDeviceFile(DeviceContent(L"8"))},
+        {L"LogDevices\\PGSP_TEMP_LOG_DEVICE____008.xml", LogDeviceFile(DeviceContent(L"9"))},
+        {L"LogNames\\Pumpe.xml",
+         LogNameFile(XmlContent().Text(L"LogDevice", L"Alt").Text(L"Ort", L"Halle 2"))},
+        {L"LogNames\\Warte.xml", XmlFile(L"LogName", {}, NameContent())},
+    };
 }
 
 // What a test shows of a buffer.
@@ -66,6 +100,8 @@ SmallStore::SmallStore()
     // Its own word for itself is not its file's: who falls back on the file is seen.
     WriteBytes(roots.board(L"AFK110"), BoardFile(BoardContent(), L"AFK 110"));
     WriteBytes(roots.protocol(L"MPI"), ProtocolFile(ProtocolContent()));
+    WriteBytes(roots.deviceTemplate(L"MPI-AFK110"), LogDeviceFile(DeviceContent(L"1")));
+    CopyTree(FromUtf8(NORV_SAMPLE_RESOURCES), roots.program() + L"\\bin");
     WriteStore();
     if (RegisterNotification(L"LogDevices", nullptr, event.c_str()) != PGSP_OK)
     {
@@ -79,16 +115,27 @@ SmallStore::~SmallStore()
     deinitWatchDirectories();
 }
 
+// Only what differs is written: most questions of a test leave the store as it is.
 void SmallStore::WriteStore() const
 {
-    for (const auto& [name, bytes] : StoredFiles())
+    static const Files beginning = Beginning();
+    const Files stored = StoredFiles();
+    const std::wstring folder = roots.data() + L"\\data\\";
+    for (const auto& [name, bytes] : stored)
     {
-        fs::remove(roots.data() + L"\\data\\" + name);
+        if (!beginning.contains(name))
+        {
+            fs::remove(folder + name);
+        }
     }
-    store.WriteDevice(L"Ofen", DeviceContent());
-    store.WriteDevice(L"Presse", DeviceContent());
-    WriteBytes(roots.logName(L"Pumpe"),
-               LogNameFile(XmlContent().Text(L"LogDevice", L"Alt").Text(L"Ort", L"Halle 2")));
+    for (const auto& [name, bytes] : beginning)
+    {
+        const auto there = stored.find(name);
+        if (there == stored.end() || there->second != bytes)
+        {
+            WriteBytes(folder + name, bytes);
+        }
+    }
 }
 
 Files SmallStore::StoredFiles() const

@@ -1,5 +1,4 @@
 #include "Questions.h"
-
 #include "norvepa.h"
 
 namespace norvepa::test
@@ -66,6 +65,23 @@ const std::vector<Question>& Reads()
              return LogDeviceGetValueListBL(L"Presse", L"LocalSettings", L"Ort\0Stufe", 10, o.first.data(),
                                             &o.firstLength);
          }},
+        {"PGSP_LogDeviceEnumNdiValueBL",
+         [](Outputs& o) {
+             return PGSP_LogDeviceEnumNdiValueBL(L"Presse", 2, o.first.data(), &o.firstLength,
+                                                 o.second.data(), &o.secondLength, Links);
+         }},
+        {"PGSP_LogDeviceGetNdiBL",
+         [](Outputs& o) {
+             return PGSP_LogDeviceGetNdiBL(L"Presse", L"Typ", o.first.data(), &o.firstLength, Links);
+         }},
+        {"PGSP_LogDeviceGetNdiBLOfAPage",
+         [](Outputs& o) {
+             return PGSP_LogDeviceGetNdiBL(L"Presse", L"PropSheet", o.first.data(), &o.firstLength, Links);
+         }},
+        {"PGSP_LogDeviceGetNdiBLOfAText",
+         [](Outputs& o) {
+             return PGSP_LogDeviceGetNdiBL(L"Presse", L"DescText", o.first.data(), &o.firstLength, Links);
+         }},
         {"PGSP_BoardGetEnumValueBL",
          [](Outputs& o) {
              return PGSP_BoardGetEnumValueBL(L"AFK110", 0, o.first.data(), &o.firstLength, o.second.data(),
@@ -115,6 +131,31 @@ const std::vector<Question>& Reads()
              return PGSP_ProtocolGetValueRawBL(L"MPI", L"Constraints\\baudrate\\187500", L"gap",
                                                o.first.data(), &o.firstLength);
          }},
+        {"PGSP_LogDeviceGetResourceStringBL",
+         [](Outputs& o) {
+             return PGSP_LogDeviceGetResourceStringBL(L"Presse", L"DescText", L"de", o.first.data(),
+                                                      &o.firstLength, Links);
+         }},
+        {"PGSP_LogNameGetResourceStringBL",
+         [](Outputs& o) {
+             return PGSP_LogNameGetResourceStringBL(L"Warte", L"DescText", L"de", o.first.data(),
+                                                    &o.firstLength, Links);
+         }},
+        {"PGSP_BoardGetResourceStringBL",
+         [](Outputs& o) {
+             return PGSP_BoardGetResourceStringBL(L"AFK110", L"DescText", L"de", o.first.data(),
+                                                  &o.firstLength, Links);
+         }},
+        {"PGSP_TemplateGetResourceStringBL",
+         [](Outputs& o) {
+             return PGSP_TemplateGetResourceStringBL(L"DefaultLogDevices", L"MPI-AFK110", L"DescText", L"de",
+                                                     o.first.data(), &o.firstLength, Links);
+         }},
+        {"PGSP_TemplateGetResourceStringBLOfNoLanguage",
+         [](Outputs& o) {
+             return PGSP_TemplateGetResourceStringBL(L"Boards", L"AFK110", L"DescText\\1", L"fr",
+                                                     o.first.data(), &o.firstLength, Links);
+         }},
         {"PGSP_TemplateGetListBL",
          [](Outputs& o) { return PGSP_TemplateGetListBL(L"Boards", o.first.data(), &o.firstLength); }},
         {"PGSP_TemplateGetEnumNoPrefixBL",
@@ -129,20 +170,6 @@ const std::vector<Question>& Reads()
          [](Outputs& o) {
              return PGSP_GetLogDeviceListExBL(L"Ort", L"Halle 2", 1, o.first.data(), &o.firstLength);
          }},
-    };
-    return all;
-}
-
-const std::vector<Question>& Changes()
-{
-    static const std::vector<Question> all{
-        {"LogNameDeleteBL", [](Outputs&) { return LogNameDeleteBL(L"Pumpe"); }},
-        {"LogNameSetValueBL", [](Outputs&) { return LogNameSetValueBL(L"Pumpe", L"Ort", L"Hof"); }},
-        {"LogNameDelValueBL", [](Outputs&) { return LogNameDelValueBL(L"Pumpe", L"Ort"); }},
-        {"LogDeviceSetValueBL", [](Outputs&) { return LogDeviceSetValueBL(L"Presse", L"Stufe", L"4"); }},
-        {"LogDeviceSetValueBLOfASubdevice",
-         [](Outputs&) { return LogDeviceSetValueBL(L"Presse\\subdevices\\Achse", L"Weg", L"6"); }},
-        {"LogDeviceDelValueBL", [](Outputs&) { return LogDeviceDelValueBL(L"Presse", L"Stufe"); }},
     };
     return all;
 }
