@@ -7,9 +7,9 @@
 namespace norvepa::test
 {
 
-OpenFile::OpenFile(const std::wstring& path)
-    : m_file(CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                         FILE_ATTRIBUTE_NORMAL, nullptr))
+OpenFile::OpenFile(const std::wstring& path, DWORD sharing)
+    : m_file(CreateFileW(path.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
+                         nullptr))
 {
     if (m_file == INVALID_HANDLE_VALUE)
     {

@@ -1,7 +1,7 @@
 #pragma once
 
-// A file that somebody has open for reading, and lets others read, but neither write nor delete, for as long
-// as the object lives.
+// A file that somebody has open for reading for as long as the object lives. Unless a test says otherwise
+// others may read it meanwhile, but neither write nor delete.
 
 #include <windows.h>
 
@@ -13,7 +13,8 @@ namespace norvepa::test
 class OpenFile
 {
 public:
-    explicit OpenFile(const std::wstring& path); // throws when it can't be opened
+    // Throws when it can't be opened.
+    explicit OpenFile(const std::wstring& path, DWORD sharing = FILE_SHARE_READ);
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
     ~OpenFile();

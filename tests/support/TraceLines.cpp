@@ -50,13 +50,22 @@ std::vector<std::string> TraceLines::read() const
 
 std::vector<std::string> LinesTagged(const std::vector<std::string>& lines, std::string_view tag)
 {
-    const std::string start = std::string(tag) + " ";
+    return LinesTaggedAnyOf(lines, {tag});
+}
+
+std::vector<std::string> LinesTaggedAnyOf(const std::vector<std::string>& lines,
+                                          std::initializer_list<std::string_view> tags)
+{
     std::vector<std::string> found;
     for (const std::string& line : lines)
     {
-        if (line.compare(TagColumn, start.size(), start) == 0)
+        for (const std::string_view tag : tags)
         {
-            found.push_back(LevelOf(line) + ": " + line.substr(TagColumn + start.size()));
+            const std::string start = std::string(tag) + " ";
+            if (line.compare(TagColumn, start.size(), start) == 0)
+            {
+                found.push_back(LevelOf(line) + ": " + line.substr(TagColumn + start.size()));
+            }
         }
     }
     return found;

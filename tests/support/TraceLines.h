@@ -5,6 +5,7 @@
 
 #include "support/TemporaryFolder.h"
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,6 +32,10 @@ inline const std::wstring AllTraceLevels = L"0xFFFFFFFF";
 // 0 ". The levels are "entry", "warning", "information" and "exit".
 [[nodiscard]] std::vector<std::string> LinesTagged(const std::vector<std::string>& lines,
                                                    std::string_view tag);
+
+// The same for the lines of several tags, in the order in which all were written.
+[[nodiscard]] std::vector<std::string> LinesTaggedAnyOf(const std::vector<std::string>& lines,
+                                                        std::initializer_list<std::string_view> tags);
 
 // A line of the format "TEXT": tag and message, a blank behind each. Tags end in a blank of their own.
 [[nodiscard]] std::string TraceLine(std::string_view tag, std::string_view message);

@@ -1,4 +1,5 @@
-// A second process that has files open: each line names one, which it holds until it ends.
+// A second process that has files open: each line names one, which it holds until it ends. Others may read it
+// meanwhile, unless "alone|" stands in front of the path.
 
 #include "support/OpenFile.h"
 #include "support/TemporaryFolder.h"
@@ -8,15 +9,30 @@
 #include <exception>
 #include <list>
 #include <string>
+#include <string_view>
+
+namespace
+{
+
+constexpr std::string_view Alone = "alone|";
+
+} // namespace
 
 int main()
 {
     std::list<norvepa::test::OpenFile> held;
-    for (std::string path; std::getline(std::cin, path);)
+    for (std::string line; std::getline(std::cin, line);)
     {
         try
         {
-            held.emplace_back(norvepa::test::FromUtf8(path));
+            if (line.starts_with(Alone))
+            {
+                held.emplace_back(norvepa::test::FromUtf8(line.substr(Alone.size())), 0);
+            }
+            else
+            {
+                held.emplace_back(norvepa::test::FromUtf8(line));
+            }
             std::cout << "held" << std::endl;
         }
         catch (const std::exception& exception)
