@@ -46,6 +46,13 @@ std::vector<std::string> LogNameTraceScene::LinesTagged(std::string_view tag) co
     return test::LinesTagged(m_lines->read(), tag);
 }
 
+std::vector<std::string> LogNameTraceScene::LinesTaggedAnyOf(
+    std::initializer_list<std::string_view> tags) const
+{
+    m_workers->Await();
+    return test::LinesTaggedAnyOf(m_lines->read(), tags);
+}
+
 std::string ToAnsi(const std::wstring& text)
 {
     char ansi[300] = "";

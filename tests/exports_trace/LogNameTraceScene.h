@@ -9,6 +9,7 @@
 #include "support/XmlFiles.h"
 
 #include <gmock/gmock.h>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -35,6 +36,8 @@ protected:
 
     // The same for a tag that isn't an operation's name, a colon and a blank.
     [[nodiscard]] std::vector<std::string> LinesTagged(std::string_view tag) const;
+    [[nodiscard]] std::vector<std::string> LinesTaggedAnyOf(
+        std::initializer_list<std::string_view> tags) const; // in the order of all
 
     StoreRoots roots;
 

@@ -1,0 +1,328 @@
+#include "LogNameTraceScene.h"
+#include "support/DeviceStore.h"
+#include "support/OpenFile.h"
+#include "support/OutputBuffer.h"
+
+namespace norvepa::test
+{
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+constexpr wchar_t First[] = L"PGSP_TEMP_LOG_DEVICE____000";
+
+const std::string FirstMade = "exit: << return PGSP_OK, TempLogDevice = PGSP_TEMP_LOG_DEVICE____000";
+const std::string NoneMade = "exit: << return PGSP_CANT_CREATE_TEMP_LOG_DEVICE";
+const std::string TooShort = "exit: << return PGSP_ERR_BUFFER_TOO_SHORT";
+
+class TemporaryTrace : public LogNameTraceScene
+{
+protected:
+    TemporaryTrace()
+    {
+        WriteBytes(roots.deviceTemplate(L"MPI"), LogDeviceFile(XmlContent().Element(L"Ndi", XmlContent())));
+        store.WriteDevice(L"Presse", {});
+    }
+
+    [[nodiscard]] std::int32_t Make(const wchar_t* logDevice, std::uint32_t capacity = 28) const
+    {
+        OutputBuffer name(capacity);
+        return library().LogDeviceCreateTempBL(logDevice, name.data(), &name.length);
+    }
+
+    [[nodiscard]] std::int32_t MakeFromTemplate(const wchar_t* name, std::uint32_t capacity = 28) const
+    {
+        OutputBuffer made(capacity);
+        return library().LogDeviceCreateTempFromDefBL(name, made.data(), &made.length);
+    }
+
+    // The tries to copy that were made.
+    [[nodiscard]] std::vector<std::string> Tries() const
+    {
+        std::vector<std::string> tries;
+        for (const std::string& line : LinesOf("NorvXMLCopyFile"))
+        {
+            if (line.starts_with("entry: "))
+            {
+                tries.push_back(line);
+            }
+        }
+        return tries;
+    }
+
+    const DeviceStore store{roots};
+};
+
+TEST_F(TemporaryTrace, OfACopyTellsItsNameAtTheEnd)
+{
+    store.WriteDevice(L"K\u00FChler", {});
+    Load();
+
+    EXPECT_EQ(Make(L"K\u00FChler"), PGSP_OK);
+
+    EXPECT_THAT(LinesOf("LogDeviceCreateTempBL"),
+                ElementsAre("entry: >> LogDevice = " + ToAnsi(L"K\u00FChler"), FirstMade));
+    EXPECT_THAT(LinesOf("SendNotificationBL"), IsEmpty());
+}
+
+TEST_F(TemporaryTrace, OfACopyTriesNumberAfterNumber)
+{
+    WriteBytes(roots.logDevice(First), "");
+    Load();
+
+    EXPECT_EQ(Make(L"Presse"), PGSP_OK);
+
+    const std::string path = ToAnsi(store.deviceFolder() + L"\\PGSP_TEMP_LOG_DEVICE____");
+    EXPECT_THAT(Tries(), ElementsAre("entry: >> destinationPath = " + path + "000",
+                                     "entry: >> destinationPath = " + path + "001"));
+    EXPECT_THAT(LinesOf("LogDeviceCreateTempBL"),
+                ElementsAre("entry: >> LogDevice = Presse",
+                            "exit: << return PGSP_OK, TempLogDevice = PGSP_TEMP_LOG_DEVICE____001"));
+}
+
+TEST_F(TemporaryTrace, OfADeviceThatIsMissingTriesAllNumbersAndNamesTheResult)
+{
+    Load();
+
+    EXPECT_EQ(Make(L"gone"), PGSP_CANT_CREATE_TEMP_LOG_DEVICE);
+
+    EXPECT_THAT(LinesOf("LogDeviceCreateTempBL"), ElementsAre("entry: >> LogDevice = gone", NoneMade));
+    EXPECT_THAT(Tries(), SizeIs(255));
+}
+
+TEST_F(TemporaryTrace, OfABufferThatIsTooShortTellsNoName)
+{
+    Load();
+
+    EXPECT_EQ(Make(L"Presse", 27), PGSP_ERR_BUFFER_TOO_SHORT);
+    EXPECT_EQ(MakeFromTemplate(L"MPI", 27), PGSP_ERR_BUFFER_TOO_SHORT);
+
+    EXPECT_THAT(LinesOf("LogDeviceCreateTempBL"), ElementsAre("entry: >> LogDevice = Presse", TooShort));
+    EXPECT_THAT(LinesOf("LogDeviceCreateTempFromDefBL"),
+                ElementsAre("entry: >> DefLogDeviceName = MPI", TooShort));
+}
+
+TEST_F(TemporaryTrace, OfACopySaysNothingOfADataFolderThatIsMissing)
+{
+    store.TakeDataFolderAway();
+    Load();
+
+    EXPECT_EQ(Make(L"Presse"), PGSP_CANT_CREATE_TEMP_LOG_DEVICE);
+
+    EXPECT_THAT(LinesOf("LogDeviceCreateTempBL"), ElementsAre("entry: >> LogDevice = Presse", NoneMade));
+}
+
+TEST_F(TemporaryTrace, OfATemplateTellsTheNameAsGivenAndTheNameMade)
+{
+    Load();
+
+    EXPECT_EQ(MakeFromTemplate(L"mpi"), PGSP_OK);
+
+    EXPECT_THAT(LinesOf("LogDeviceCreateTempFromDefBL"),
+                ElementsAre("entry: >> DefLogDeviceName = mpi", FirstMade));
+}
+
+TEST_F(TemporaryTrace, OfATemplateSetsItsNameAheadOfTheExitAndAnnouncesNothing)
+{
+    Load();
+
+    EXPECT_EQ(MakeFromTemplate(L"MPI"), PGSP_OK);
+
+    EXPECT_THAT(
+        LinesTaggedAnyOf(
+            {"LogDeviceCreateTempFromDefBL: ", "PGSP_LogDeviceSetNdiBL: ", "SendNotificationBL: "}),
+        ElementsAre(
+            "entry: >> DefLogDeviceName = MPI",
+            "entry: >> LogDevice = PGSP_TEMP_LOG_DEVICE____000, Parameter = DefLogDevice, Value = MPI",
+            "information: Type not found. Using Type = string", "entry: >> SendNotificationBL",
+            "exit: << exclude TempLogDevices", "exit: << return lRet = 0", FirstMade));
+    EXPECT_THAT(LinesOf("NotifiyThread"), IsEmpty());
+}
+
+TEST_F(TemporaryTrace, OfATemplateThatHasNoPlaceForItsNameEndsAsWell)
+{
+    WriteBytes(roots.deviceTemplate(L"MPI"), LogDeviceFile({}));
+    Load();
+
+    EXPECT_EQ(MakeFromTemplate(L"MPI"), PGSP_OK);
+
+    EXPECT_THAT(
+        LinesTaggedAnyOf({"LogDeviceCreateTempFromDefBL: ", "PGSP_LogDeviceSetNdiBL: "}),
+        ElementsAre(
+            "entry: >> DefLogDeviceName = MPI",
+            "entry: >> LogDevice = PGSP_TEMP_LOG_DEVICE____000, Parameter = DefLogDevice, Value = MPI",
+            "information: Type not found. Using Type = string", "exit: << return lRet = 8514", FirstMade));
+}
+
+TEST_F(TemporaryTrace, OfATemplateThatIsMissingTriesAllNumbersAndNamesTheResult)
+{
+    Load();
+
+    EXPECT_EQ(MakeFromTemplate(L"gone"), PGSP_CANT_CREATE_TEMP_LOG_DEVICE);
+
+    EXPECT_THAT(LinesOf("LogDeviceCreateTempFromDefBL"),
+                ElementsAre("entry: >> DefLogDeviceName = gone", NoneMade));
+    EXPECT_THAT(Tries(), SizeIs(255));
+    EXPECT_THAT(LinesOf("PGSP_LogDeviceSetNdiBL"), IsEmpty());
+}
+
+TEST_F(TemporaryTrace, OfATemplateNamesTheProgramFolderThatIsMissing)
+{
+    store.TakeProgramFolderAway();
+    Load();
+
+    EXPECT_EQ(MakeFromTemplate(L"MPI"), PGSP_ERR_FOLDER_NOT_FOUND);
+
+    EXPECT_THAT(LinesOf("LogDeviceCreateTempFromDefBL"),
+                ElementsAre("entry: >> DefLogDeviceName = MPI",
+                            "information: Can not get Corvane OAM path from Program Files",
+                            "exit: << return lRet = 8517"));
+}
+
+TEST_F(TemporaryTrace, OfATemplateNamesTheDataFolderAheadOfTheOther)
+{
+    store.TakeProgramFolderAway();
+    store.TakeDataFolderAway();
+    Load();
+
+    EXPECT_EQ(MakeFromTemplate(L"MPI"), PGSP_ERR_FOLDER_NOT_FOUND);
+
+    EXPECT_THAT(LinesOf("LogDeviceCreateTempFromDefBL"),
+                ElementsAre("entry: >> DefLogDeviceName = MPI", NoFolder, "exit: << return lRet = 8517"));
+}
+
+TEST_F(TemporaryTrace, OfASwapSaysThatTheTemporaryDeviceIsRemovedAheadOfItsRemoval)
+{
+    WriteBytes(roots.logDevice(First), "");
+    Load();
+
+    EXPECT_EQ(library().LogDeviceUpdateWithTempBL(First, L"Presse"), PGSP_OK);
+
+    const std::string folder = ToAnsi(store.deviceFolder());
+    const std::string device = folder + "\\Presse";
+    const std::string temporary = folder + "\\PGSP_TEMP_LOG_DEVICE____000";
+    EXPECT_THAT(
+        LinesTaggedAnyOf({"LogDeviceUpdateWithTempBL: ", "NorvXMLDeleteFile: ", "NorvXMLCopyFile: "}),
+        ElementsAre("entry: >> TempLogDevice = PGSP_TEMP_LOG_DEVICE____000, LogDevice = Presse",
+                    "entry: >> filePath = " + device, "entry: >> _wremove = " + device + ".xml",
+                    "entry: >> destinationPath = " + device,
+                    "exit:  : CopyFile >> OldFile = " + temporary + ".xml, NewFile = " + device + ".xml",
+                    "exit: << LogDevice updated. TempLogDevice deleted.", "entry: >> filePath = " + temporary,
+                    "entry: >> _wremove = " + temporary + ".xml"));
+    EXPECT_THAT(LinesOf("SendNotificationBL"), IsEmpty());
+}
+
+TEST_F(TemporaryTrace, OfASwapSaysSoEvenWhenTheTemporaryDeviceStays)
+{
+    WriteBytes(roots.logDevice(First), "");
+    const OpenFile inUse(roots.logDevice(First));
+    Load();
+
+    EXPECT_EQ(library().LogDeviceUpdateWithTempBL(First, L"Presse"), PGSP_ERR_CANT_DELETE_FILE);
+
+    EXPECT_THAT(LinesOf("LogDeviceUpdateWithTempBL"),
+                ElementsAre("entry: >> TempLogDevice = PGSP_TEMP_LOG_DEVICE____000, LogDevice = Presse",
+                            "exit: << LogDevice updated. TempLogDevice deleted."));
+}
+
+TEST_F(TemporaryTrace, OfASwapThatCanNotBeCopiedIsTheResult)
+{
+    Load();
+
+    EXPECT_EQ(library().LogDeviceUpdateWithTempBL(First, L"Presse"), PGSP_ERR_CANT_COPY_FILE);
+
+    EXPECT_THAT(LinesOf("LogDeviceUpdateWithTempBL"),
+                ElementsAre("entry: >> TempLogDevice = PGSP_TEMP_LOG_DEVICE____000, LogDevice = Presse",
+                            "exit: << return lRet = 8512"));
+}
+
+TEST_F(TemporaryTrace, OfASwapForADeviceThatIsMissingCopiesNothing)
+{
+    WriteBytes(roots.logDevice(First), "");
+    Load();
+
+    EXPECT_EQ(library().LogDeviceUpdateWithTempBL(First, L"gone"), PGSP_ERR_FILE_NOT_FOUND);
+    EXPECT_EQ(library().LogDeviceUpdateWithTempBL(First, store.DeviceForPathOf(260).c_str()),
+              PGSP_ERR_BUFFER_TOO_SHORT);
+
+    EXPECT_THAT(LinesOf("NorvXMLCopyFile"), IsEmpty());
+    EXPECT_THAT(LinesOf("LogDeviceUpdateWithTempBL"),
+                testing::Contains("entry: >> TempLogDevice = PGSP_TEMP_LOG_DEVICE____000, LogDevice = gone"));
+}
+
+TEST_F(TemporaryTrace, OfASwapNamesTheDataFolderThatIsMissing)
+{
+    store.TakeDataFolderAway();
+    Load();
+
+    EXPECT_EQ(library().LogDeviceUpdateWithTempBL(L"", L""), PGSP_ERR_FOLDER_NOT_FOUND);
+
+    EXPECT_THAT(LinesOf("LogDeviceUpdateWithTempBL"), ElementsAre("entry: >> TempLogDevice = , LogDevice = ",
+                                                                  NoFolder, "exit: << return lRet = 8517"));
+}
+
+TEST_F(TemporaryTrace, OfARemovalIsTheResult)
+{
+    WriteBytes(roots.logDevice(First), "");
+    Load();
+
+    EXPECT_EQ(library().LogDeviceDelTempBL(First), PGSP_OK);
+    EXPECT_EQ(library().LogDeviceDelTempBL(First), PGSP_ERR_CANT_DELETE_FILE);
+
+    EXPECT_THAT(
+        LinesOf("LogDeviceDelTempBL"),
+        ElementsAre("entry: >> TempLogDevice = PGSP_TEMP_LOG_DEVICE____000", "exit: << return lRet = 0",
+                    "entry: >> TempLogDevice = PGSP_TEMP_LOG_DEVICE____000", "exit: << return lRet = 8511"));
+    EXPECT_THAT(LinesOf("SendNotificationBL"), IsEmpty());
+}
+
+TEST_F(TemporaryTrace, OfARemovalOfARealDeviceIsTheEntryAlone)
+{
+    Load();
+
+    EXPECT_EQ(library().LogDeviceDelTempBL(L"Presse"), PGSP_ERR_INVALID_PARAMETERS);
+
+    EXPECT_THAT(LinesOf("LogDeviceDelTempBL"), ElementsAre("entry: >> TempLogDevice = Presse"));
+    EXPECT_THAT(LinesOf("NorvXMLDeleteFile"), IsEmpty());
+}
+
+TEST_F(TemporaryTrace, OfARemovalNamesTheDataFolderThatIsMissing)
+{
+    store.TakeDataFolderAway();
+    Load();
+
+    EXPECT_EQ(library().LogDeviceDelTempBL(First), PGSP_ERR_FOLDER_NOT_FOUND);
+
+    EXPECT_THAT(LinesOf("LogDeviceDelTempBL"),
+                ElementsAre("entry: >> TempLogDevice = PGSP_TEMP_LOG_DEVICE____000", NoFolder,
+                            "exit: << return lRet = 8517"));
+}
+
+TEST_F(TemporaryTrace, OfMissingArgumentsBeginsWithThem)
+{
+    Load();
+
+    EXPECT_EQ(Make(nullptr), PGSP_ERR_INVALID_PARAMETERS);
+    EXPECT_EQ(library().LogDeviceCreateTempBL(L"Presse", nullptr, nullptr), PGSP_ERR_INVALID_PARAMETERS);
+    EXPECT_EQ(MakeFromTemplate(L""), PGSP_ERR_INVALID_PARAMETERS);
+    EXPECT_EQ(library().LogDeviceUpdateWithTempBL(nullptr, L"Presse"), PGSP_ERR_INVALID_PARAMETERS);
+    EXPECT_EQ(library().LogDeviceUpdateWithTempBL(First, nullptr), PGSP_ERR_INVALID_PARAMETERS);
+    EXPECT_EQ(library().LogDeviceDelTempBL(nullptr), PGSP_ERR_INVALID_PARAMETERS);
+    EXPECT_EQ(library().LogDeviceDelTempBL(L""), PGSP_ERR_INVALID_PARAMETERS);
+
+    EXPECT_THAT(LinesOf("LogDeviceCreateTempBL"),
+                ElementsAre("entry: >> LogDevice = ", Refusal, "entry: >> LogDevice = Presse", Refusal));
+    EXPECT_THAT(LinesOf("LogDeviceCreateTempFromDefBL"),
+                ElementsAre("entry: >> DefLogDeviceName = ", Refusal));
+    EXPECT_THAT(LinesOf("LogDeviceUpdateWithTempBL"),
+                ElementsAre("entry: >> TempLogDevice = , LogDevice = Presse", Refusal,
+                            "entry: >> TempLogDevice = PGSP_TEMP_LOG_DEVICE____000, LogDevice = ", Refusal));
+    EXPECT_THAT(LinesOf("LogDeviceDelTempBL"),
+                ElementsAre("entry: >> TempLogDevice = ", Refusal, "entry: >> TempLogDevice = ", Refusal));
+}
+
+} // namespace
+} // namespace norvepa::test
