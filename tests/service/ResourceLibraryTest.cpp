@@ -156,6 +156,35 @@ TEST_F(ResourceLibraryTest, WithABlockThatEndsWithinACharacterHoldsNoneOfIt)
     EXPECT_EQ(library.TextOf(48), L"");
 }
 
+TEST_F(ResourceLibraryTest, WithABlockToldToLieBeyondTheLibraryHoldsNothingOfIt)
+{
+    constexpr std::uint32_t behindSection = 0x2000;
+    const ResourceLibrary library = Loaded(TextLibrary()
+                                               .BlockAt(1, behindSection, 100)
+                                               .BlockAt(2, 0x7FFFFFF0, 100)
+                                               .BlockAt(3, 0xFFFFFFF0, 100)
+                                               .BlockAt(4, behindSection - 2, 100)
+                                               .BlockAt(5, behindSection - 1, 0xFFFFFFFF)
+                                               .Text(80, L"in its place"));
+
+    EXPECT_EQ(library.TextOf(0), L"");
+    EXPECT_EQ(library.TextOf(16), L"");
+    EXPECT_EQ(library.TextOf(32), L"");
+    EXPECT_EQ(library.TextOf(48), L"");
+    EXPECT_EQ(library.TextOf(63), L"");
+    EXPECT_EQ(library.TextOf(64), L"");
+    EXPECT_EQ(library.TextOf(80), L"in its place");
+}
+
+TEST_F(ResourceLibraryTest, WithABlockToldToBeLongerThanTheLibraryHoldsWhatThereIs)
+{
+    const ResourceLibrary library = Loaded(TextLibrary().BlockAt(1, 0, 0xFFFFFFFF).BlockAt(2, 0, 1));
+
+    EXPECT_EQ(library.TextOf(0), L"") << "the file's first word counts more than its first page";
+    EXPECT_EQ(library.TextOf(15), L"");
+    EXPECT_EQ(library.TextOf(16), L"");
+}
+
 TEST_F(ResourceLibraryTest, WithoutStringsIsALibraryAllTheSame)
 {
     EXPECT_EQ(Loaded(TextLibrary()).TextOf(0), L"");
@@ -197,10 +226,11 @@ TEST_F(ResourceLibraryTest, WithoutANameIsNone)
     EXPECT_NE(library.error(), 0U);
 }
 
-TEST_F(ResourceLibraryTest, LetsNobodyWriteTheFileUntilItGoes)
+TEST_F(ResourceLibraryTest, LetsNobodyWriteOrDeleteTheFileUntilItGoes)
 {
     auto library = std::make_unique<ResourceLibrary>(Loaded(TextLibrary().Text(7, L"seven")));
     EXPECT_FALSE(CanBeWritten(path()));
+    EXPECT_FALSE(DeleteFileW(path().c_str()));
 
     library.reset();
 

@@ -16,7 +16,7 @@ constexpr DWORD SectionAddress = 0x1000; // in the loaded image, of which a page
 constexpr WORD StringType = 6;
 constexpr DWORD IsDirectory = 0x80000000;
 
-using Blocks = std::map<unsigned, std::string>;
+using Blocks = std::map<unsigned, TextLibrary::StoredBlock>;
 
 template <typename Thing>
 void Append(std::string& bytes, const Thing& thing)
@@ -72,13 +72,15 @@ std::string ResourceSection(const Blocks& blocks)
     std::size_t data = places + sizeof(IMAGE_RESOURCE_DATA_ENTRY) * blocks.size();
     for (const auto& [number, block] : blocks)
     {
-        Append(bytes, IMAGE_RESOURCE_DATA_ENTRY{SectionAddress + static_cast<DWORD>(data),
-                                                static_cast<DWORD>(block.size()), 0, 0});
-        data += block.size();
+        const TextLibrary::Place real{SectionAddress + static_cast<DWORD>(data),
+                                      static_cast<DWORD>(block.bytes.size())};
+        const TextLibrary::Place place = block.told.value_or(real);
+        Append(bytes, IMAGE_RESOURCE_DATA_ENTRY{place.address, place.size, 0, 0});
+        data += block.bytes.size();
     }
     for (const auto& [number, block] : blocks)
     {
-        bytes += block;
+        bytes += block.bytes;
     }
     return bytes;
 }
@@ -135,7 +137,13 @@ TextLibrary& TextLibrary::Text(unsigned number, std::wstring_view text)
 
 TextLibrary& TextLibrary::Block(unsigned block, std::string_view bytes)
 {
-    m_blocks[block] = bytes;
+    m_blocks[block] = {std::string(bytes), {}};
+    return *this;
+}
+
+TextLibrary& TextLibrary::BlockAt(unsigned block, std::uint32_t address, std::uint32_t bytes)
+{
+    m_blocks[block] = {{}, Place{address, bytes}};
     return *this;
 }
 
@@ -146,9 +154,9 @@ std::string TextLibrary::file() const
     {
         for (const std::wstring& string : strings)
         {
-            Append(blocks[number], static_cast<WORD>(string.size()));
-            blocks[number].append(reinterpret_cast<const char*>(string.data()),
-                                  string.size() * sizeof(wchar_t));
+            std::string& bytes = blocks[number].bytes;
+            Append(bytes, static_cast<WORD>(string.size()));
+            bytes.append(reinterpret_cast<const char*>(string.data()), string.size() * sizeof(wchar_t));
         }
     }
     const std::string section = ResourceSection(blocks);

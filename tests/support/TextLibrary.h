@@ -7,7 +7,9 @@
 // One without strings is a library all the same.
 
 #include <array>
+#include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -24,13 +26,28 @@ public:
     // 0.
     TextLibrary& Block(unsigned block, std::string_view bytes);
 
+    // A block that isn't there, and is told to lie at an address within the loaded library, from its start.
+    TextLibrary& BlockAt(unsigned block, std::uint32_t address, std::uint32_t bytes);
+
     [[nodiscard]] std::string file() const;
+
+    // For the source alone.
+    struct Place
+    {
+        std::uint32_t address;
+        std::uint32_t size; // in bytes
+    };
+    struct StoredBlock
+    {
+        std::string bytes;
+        std::optional<Place> told; // instead of where the bytes lie
+    };
 
 private:
     using Strings = std::array<std::wstring, 16>;
 
-    std::map<unsigned, Strings> m_texts; // by block
-    std::map<unsigned, std::string> m_blocks;
+    std::map<unsigned, Strings> m_texts; // both by block
+    std::map<unsigned, StoredBlock> m_blocks;
 };
 
 } // namespace norvepa::test
