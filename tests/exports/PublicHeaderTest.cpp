@@ -77,8 +77,8 @@ bool HoldsWord(const std::string& text, const std::string& word)
 class PublicHeader : public testing::Test
 {
 protected:
-    // In the comment itself, in that of a function that it refers to, there under the same name or in the same
-    // place, or in the one above, if it says so.
+    // In the comment itself, in that of a function that it refers to, there under the same name or in the
+    // same place, or in the one above, if it says so.
     [[nodiscard]] bool IsDocumented(const Declaration& function, std::size_t argument) const
     {
         const std::string& name = function.arguments[argument];
