@@ -43,9 +43,8 @@ FilePair EscapeBoth(const wchar_t* sourcePath, const wchar_t* destinationPath, E
 
 } // namespace
 
-Deletion::Deletion(const wchar_t* filePath) : m_filePath(filePath), m_escaping(PGSP_OK)
+Deletion::Deletion(const wchar_t* filePath) : m_filePath(filePath), m_escaping(EscapePath(filePath, m_file))
 {
-    m_escaping = EscapePath(filePath, m_file);
     ExtendByEndRule(m_file);
 }
 

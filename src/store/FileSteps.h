@@ -23,7 +23,7 @@ public:
 private:
     const wchar_t* m_filePath;
     std::wstring m_file;
-    Result m_escaping;
+    Result m_escaping; // fills the one above
 };
 
 // The files of a step from one to another, as they are called on disk; empty when a path can't be escaped.
