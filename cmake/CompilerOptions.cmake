@@ -34,12 +34,12 @@ if(NOT CMAKE_BUILD_TYPE STREQUAL "Debug") # needs optimisation
   target_compile_definitions(norv_hardening INTERFACE _FORTIFY_SOURCE=2)
 endif()
 
-# Debug sections of a sanitised build outgrow the plain object format.
-target_compile_options(norv_options INTERFACE -Wa,-mbig-obj)
-
-if(NORV_TRAP_UNDEFINED)
-  # A trap is looked up by the names of functions: with lines and types, linking takes longer than the tests.
-  target_compile_options(norv_options INTERFACE -g0)
-  # The trap needs no run-time library, which MinGW-w64 doesn't have; vptr checks would need one.
-  target_compile_options(norv_options INTERFACE -fsanitize=undefined -fsanitize-undefined-trap-on-error -fno-sanitize=vptr)
-endif()
+# The library once more, for the tests: it stops at undefined behaviour, and where the standard library is asked
+# what it must not be. A trap is looked up by the names of functions: with lines and types, linking would take
+# longer than the tests. It needs no run-time library, which MinGW-w64 doesn't have; vptr checks would need one.
+add_library(norv_traps INTERFACE)
+target_compile_definitions(norv_traps INTERFACE _GLIBCXX_ASSERTIONS)
+target_compile_options(norv_traps INTERFACE
+                       -O0 -g0 -U_FORTIFY_SOURCE # needs optimisation
+                       -fsanitize=undefined -fsanitize-undefined-trap-on-error -fno-sanitize=vptr
+                       -Wa,-mbig-obj) # whose sections outgrow the plain object format
