@@ -197,6 +197,18 @@ TEST_F(TextLibraryPlace, OfANameWithABackslashIsNowhere)
     }
 }
 
+TEST_F(TextLibraryPlace, OfNoNameIsNotTheLibraryThatIsNamedLikeItsFolder)
+{
+    for (const wchar_t* const language : {L"de", L"en"})
+    {
+        std::filesystem::remove_all(bin() + L"\\" + language);
+        WriteBytes(bin() + L"\\" + language + L".dll", TextLibrary().Text(1000, L"not meant").file());
+    }
+    WriteDevice({.name = L"Title", .assembly = L"", .path = L"", .resourceId = L"1000"});
+
+    EXPECT_EQ(Title(), NoLibrary);
+}
+
 TEST_F(TextLibraryPlace, OfNoNameIsNowhereThoughAFolderIsNamedLikeALibrary)
 {
     for (const wchar_t* const language : {L"de", L"en"})

@@ -43,6 +43,21 @@ TEST_F(AProvisionalFile, IsRemovedWhenAnExceptionLeavesTheScope)
     EXPECT_FALSE(Exists(path));
 }
 
+// As the copy of a read-only file is.
+TEST_F(AProvisionalFile, IsRemovedThoughItIsReadOnly)
+{
+    const auto fail = [this] {
+        const ProvisionalFile provisional(path);
+        WriteBytes(path, "<x/>");
+        SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
+        throw std::runtime_error("half-way");
+    };
+
+    EXPECT_THROW(fail(), std::runtime_error);
+
+    EXPECT_FALSE(Exists(path));
+}
+
 TEST_F(AProvisionalFile, NeedNotBeThereYet)
 {
     const auto fail = [this] {

@@ -141,6 +141,13 @@ TEST_F(SetNdiTest, AChildThatIsMissingAndGivenIsAdded)
                                                                    .Element(L"Path", L"p")));
 }
 
+TEST_F(SetNdiTest, AChildThatANewLinkWouldLackIsNotAdded)
+{
+    GivenLinks(XmlContent().ParameterAssemblyLink({.name = L"Seite", .assembly = L"A.dll"}));
+
+    ExpectSame({.assembly = L"A.dll", .function = L"F"});
+}
+
 TEST_F(SetNdiTest, AResourceIdIsComparedWhateverTheName)
 {
     GivenLinks(XmlContent().Resource({.name = L"PropSheet", .resourceId = L"1"}));
