@@ -2,6 +2,7 @@
 
 #include "frame/Text.h"
 #include "store/Kinds.h"
+#include "store/PullWalk.h"
 #include "store/norvxml.h"
 #include "xml/Engine.h"
 
@@ -58,6 +59,12 @@ Result OpenDocument(const std::wstring& file, Document& document)
         return result;
     }
     return document.Load(file) ? PGSP_OK : PGSP_ERR_CANT_LOAD_XML_FILE;
+}
+
+Result OpenStoreDocument(const wchar_t* filePath, std::wstring& file, Document& document)
+{
+    const Result result = StoreFile(filePath, file);
+    return result == PGSP_OK ? OpenDocument(file, document) : result;
 }
 
 ComForOneCall::~ComForOneCall()

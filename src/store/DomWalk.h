@@ -24,6 +24,9 @@ namespace norvepa
 // The same without a word in the trace, but for the size guard's.
 [[nodiscard]] Result OpenDocument(const std::wstring& file, Document& document);
 
+// The same for a store path; `file` becomes what it is called on disk.
+[[nodiscard]] Result OpenStoreDocument(const wchar_t* filePath, std::wstring& file, Document& document);
+
 // COM for a call that may come on a thread without it: when there is no engine for want of COM, COM is
 // initialised and the engine asked for once more. What was initialised ends with the object, which has to
 // outlive the document; but a call that fails to load its file leaves its thread initialised.

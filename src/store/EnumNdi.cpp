@@ -1,7 +1,6 @@
 #include "frame/Arguments.h"
 #include "store/DomWalk.h"
 #include "store/LinkSection.h"
-#include "store/PullWalk.h"
 #include "store/norvxml.h"
 
 namespace norvepa
@@ -57,12 +56,8 @@ Result NorvXMLEnumNdi(const wchar_t* filePath, std::uint32_t index, std::wstring
         return PGSP_ERR_INVALID_PARAMETERS;
     }
     std::wstring file;
-    if (const Result result = StoreFile(filePath, file); result != PGSP_OK)
-    {
-        return result;
-    }
     Document document;
-    if (const Result result = OpenDocument(file, document); result != PGSP_OK)
+    if (const Result result = OpenStoreDocument(filePath, file, document); result != PGSP_OK)
     {
         return result;
     }

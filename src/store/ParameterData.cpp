@@ -1,7 +1,6 @@
 #include "frame/Arguments.h"
 #include "frame/Text.h"
 #include "store/DomWalk.h"
-#include "store/PullWalk.h"
 #include "store/norvxml.h"
 
 namespace norvepa
@@ -18,12 +17,6 @@ std::wstring_view ElementOfType(std::wstring_view type)
         return L"ParameterInt";
     }
     return EqualNoCase(type, L"bool") ? L"ParameterBool" : L"Parameter";
-}
-
-Result OpenData(const wchar_t* filePath, std::wstring& file, Document& document)
-{
-    const Result result = StoreFile(filePath, file);
-    return result == PGSP_OK ? OpenDocument(file, document) : result;
 }
 
 Node FindEntry(const Document& document, std::wstring_view name)
@@ -83,7 +76,7 @@ Result NorvXMLGetParameterData(const wchar_t* filePath, const wchar_t* name, std
     }
     std::wstring file;
     Document document;
-    if (const Result result = OpenData(filePath, file, document); result != PGSP_OK)
+    if (const Result result = OpenStoreDocument(filePath, file, document); result != PGSP_OK)
     {
         return result;
     }
@@ -107,7 +100,7 @@ Result NorvXMLSetParameterData(const wchar_t* filePath, const wchar_t* name, con
     }
     std::wstring file;
     Document document;
-    if (const Result result = OpenData(filePath, file, document); result != PGSP_OK)
+    if (const Result result = OpenStoreDocument(filePath, file, document); result != PGSP_OK)
     {
         return result;
     }
@@ -139,7 +132,7 @@ Result NorvXMLDelParameterData(const wchar_t* filePath, const wchar_t* name)
     }
     std::wstring file;
     Document document;
-    if (const Result result = OpenData(filePath, file, document); result != PGSP_OK)
+    if (const Result result = OpenStoreDocument(filePath, file, document); result != PGSP_OK)
     {
         return result;
     }
@@ -162,7 +155,7 @@ Result NorvXMLEnumParameterData(const wchar_t* filePath, std::uint32_t index, st
     }
     std::wstring file;
     Document document;
-    if (const Result result = OpenData(filePath, file, document); result != PGSP_OK)
+    if (const Result result = OpenStoreDocument(filePath, file, document); result != PGSP_OK)
     {
         return result;
     }

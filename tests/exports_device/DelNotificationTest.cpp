@@ -1,3 +1,4 @@
+#include "Registrants.h"
 #include "SetScene.h"
 #include "support/OpenFile.h"
 
@@ -6,17 +7,13 @@ namespace norvepa::test
 namespace
 {
 
-class DelNotification : public SetScene
+class DelNotification : public WithRegistrants<SetScene>
 {
 protected:
     DelNotification()
     {
         store.UseOurSchemas();
         Write(Device());
-        Register(press, L"Presse");
-        Register(pump, L"Pumpe");
-        Register(all);
-        Register(names, nullptr, L"LogNames");
     }
 
     // What satisfies the schema.
@@ -26,11 +23,6 @@ protected:
             .Element(L"DeviceHeader", XmlContent().Int(L"Unit", L"1"))
             .Element(L"SpareSection", XmlContent().Text(L"Ort", L"Halle 2"));
     }
-
-    const NamedEvent press;
-    const NamedEvent pump;
-    const NamedEvent all;
-    const NamedEvent names;
 };
 
 TEST_F(DelNotification, TellsOfARemovedValue)

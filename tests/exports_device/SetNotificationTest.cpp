@@ -1,3 +1,4 @@
+#include "Registrants.h"
 #include "SetScene.h"
 #include "support/OpenFile.h"
 
@@ -6,7 +7,7 @@ namespace norvepa::test
 namespace
 {
 
-class SetNotification : public SetScene
+class SetNotification : public WithRegistrants<SetScene>
 {
 protected:
     SetNotification()
@@ -15,11 +16,6 @@ protected:
                   .Element(L"LocalSettings", XmlContent().Text(L"Stufe", L"1"))
                   .Subdevice(L"Ventil", XmlContent().Text(L"Stufe", L"1"))
                   .Element(L"SpareSection", XmlContent()));
-        Register(press, L"Presse");
-        Register(pump, L"Pumpe");
-        Register(all);
-        Register(names, nullptr, L"LogNames");
-        Register(templates, nullptr, L"meta");
     }
 
     void ExpectPressTold() const
@@ -31,18 +27,6 @@ protected:
         EXPECT_FALSE(IsTold(templates));
         EXPECT_EQ(workers.count(), 1U);
     }
-
-    void ExpectNobodyTold() const
-    {
-        EXPECT_EQ(workers.count(), 0U);
-        EXPECT_FALSE(IsTold(all));
-    }
-
-    const NamedEvent press;
-    const NamedEvent pump;
-    const NamedEvent all;
-    const NamedEvent names;
-    const NamedEvent templates;
 };
 
 TEST_F(SetNotification, TellsOfAChangedValue)

@@ -1,4 +1,5 @@
 #include "LifeScene.h"
+#include "exports_device/Registrants.h"
 #include "support/Eventually.h"
 
 namespace norvepa::test
@@ -6,35 +7,20 @@ namespace norvepa::test
 namespace
 {
 
-class LifeNotification : public LifeScene
+class LifeNotification : public WithRegistrants<LifeScene>
 {
 protected:
-    LifeNotification()
-    {
-        WriteTemplate(L"MPI", Rights(L"false", L"true"));
-        Register(press, L"Presse");
-        Register(other, L"Pumpe");
-        Register(all);
-        Register(names, nullptr, L"LogNames");
-        Register(templates, nullptr, L"meta");
-    }
+    LifeNotification() { WriteTemplate(L"MPI", Rights(L"false", L"true")); }
 
     // That the change of "Presse" was announced, so many times in all.
     void ExpectPressTold(std::size_t times) const
     {
         EXPECT_TRUE(press.Await());
         EXPECT_TRUE(all.Await());
-        EXPECT_FALSE(IsTold(other));
+        EXPECT_FALSE(IsTold(pump));
         EXPECT_FALSE(IsTold(names));
         EXPECT_FALSE(IsTold(templates));
         EXPECT_EQ(workers.count(), times);
-    }
-
-    void ExpectNobodyTold() const
-    {
-        EXPECT_EQ(workers.count(), 0U);
-        EXPECT_FALSE(IsTold(press));
-        EXPECT_FALSE(IsTold(all));
     }
 
     // As many as a copy of a log device with this content to "Presse" sends.
@@ -46,12 +32,6 @@ protected:
 
         ExpectPressTold(times);
     }
-
-    const NamedEvent press;
-    const NamedEvent other;
-    const NamedEvent all;
-    const NamedEvent names;
-    const NamedEvent templates;
 };
 
 TEST_F(LifeNotification, TellsOfANewDevice)

@@ -1,4 +1,5 @@
 #include "NdiScene.h"
+#include "exports_device/Registrants.h"
 #include "support/OpenFile.h"
 
 namespace norvepa::test
@@ -6,18 +7,13 @@ namespace norvepa::test
 namespace
 {
 
-class NdiNotification : public NdiScene
+class NdiNotification : public WithRegistrants<NdiScene>
 {
 protected:
     NdiNotification()
     {
         store.UseOurSchemas();
         Write(Device());
-        Register(press, L"Presse");
-        Register(pump, L"Pumpe");
-        Register(all);
-        Register(names, nullptr, L"LogNames");
-        Register(templates, nullptr, L"meta");
     }
 
     [[nodiscard]] static XmlContent Device()
@@ -39,19 +35,6 @@ protected:
         EXPECT_FALSE(IsTold(templates));
         EXPECT_EQ(workers.count(), changes);
     }
-
-    void ExpectNobodyTold() const
-    {
-        EXPECT_EQ(workers.count(), 0U);
-        EXPECT_FALSE(IsTold(press));
-        EXPECT_FALSE(IsTold(all));
-    }
-
-    const NamedEvent press;
-    const NamedEvent pump;
-    const NamedEvent all;
-    const NamedEvent names;
-    const NamedEvent templates;
 };
 
 TEST_F(NdiNotification, TellsOfAPlainValue)

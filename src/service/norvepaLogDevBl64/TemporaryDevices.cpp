@@ -47,7 +47,7 @@ TemporaryDevice CopyToFreeNumber(const OriginalIn& originalIn)
         const std::wstring original = originalIn(dataFolder);
         const std::wstring file = LogDeviceFile(dataFolder, name);
         const Copying copying(original.c_str(), file.c_str());
-        TemporaryDevice made{name, copying.newFile()};
+        TemporaryDevice made{name, copying.newFile()}; // ahead of the copy, which must not be lost behind it
         if (copying.Run() == PGSP_OK)
         {
             return made;
