@@ -593,6 +593,203 @@ int32_t LogDeviceUpdateWithTempBL(const wchar_t* TempLogDevice, const wchar_t* L
  */
 int32_t LogDeviceDelTempBL(const wchar_t* TempLogDevice);
 
+/*
+ * Removes a log device that stands for a VMD identity. Such log devices are known by their names alone;
+ * nobody is asked whether it may be removed.
+ *
+ *   LogDevice  in  a name with *_/VMDID or PC internal in it, in this case
+ *
+ * PGSP_OK                      removed
+ * PGSP_ERR_INVALID_PARAMETERS  LogDevice is null or empty, or isn't such a name
+ * PGSP_ERR_BUFFER_TOO_SHORT    the path has 260 characters or more
+ * PGSP_ERR_CANT_DELETE_FILE    there is no such log device, or its file is in use or protected
+ * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
+ *
+ * Notifies nobody.
+ */
+int32_t LogDeviceDelVmdIdBL(const wchar_t* LogDevice);
+
+/* Choices: what follows from a parameter's value, and which values there are to choose from ------------
+ *
+ * For the values of two parameters, "busparam" (the bus profile) and "baudrate", a protocol holds the values
+ * that other parameters get with them. Applying a profile writes these to a log device, each checked and
+ * announced as LogDeviceSetValueBL does it. That isn't one transaction: what was written ahead of a failure
+ * stays. Names of parameters are compared without regard to case.
+ */
+
+/*
+ * Changes the transmission speed of a log device, and what follows from it. For a CP_TYPE of exactly "L2" the
+ * speed is stored as it is, unchecked, and the bus profile that the log device has is applied again, unless
+ * that is "3", the user's own. For all others the speed is set as a value of "baudrate" and the profile that
+ * belongs to it is applied; a log device of "MPI" then gets a "ttr" of 8 more than its "highest_adr", if that
+ * can be set.
+ *
+ *   LogDevice  in  the log device
+ *   Value      in  the speed, as a value of "baudrate"
+ *
+ * PGSP_OK                               changed, with all that follows
+ * PGSP_ERR_INVALID_PARAMETERS           LogDevice or Value is null, or LogDevice is empty; for "L2" also for
+ *                                       a speed that isn't a number
+ * PGSP_PROFILE_NO_VALUE                 the speed was refused, or no profile belongs to it, or not all of its
+ *                                       values could be written
+ * PGSP_ERR_PARAM_NOT_FOUND              the log device has no "baudrate", for "L2" no "busparam"
+ * PGSP_ERR_PARAMETER_DEFAULT_NOT_FOUND  there is no such log device, or it has no CP_TYPE
+ * PGSP_ERR_FILE_NOT_FOUND, PGSP_ERR_CANT_LOAD_XML_FILE, PGSP_ERR_CANT_SET_VALUE, PGSP_ERR_BUFFER_TOO_SHORT
+ *                                       for "L2": as LogDeviceSetValueBL
+ * PGSP_ERR_FOLDER_NOT_FOUND             the data folder can't be found
+ *
+ * After a failure the speed is the old one again, if it could be read. Notifies "LogDevices", the log device,
+ * for each value that has changed, but not for the speed of an "L2".
+ */
+int32_t LogDeviceSetBusparamsBL(const wchar_t* LogDevice, const wchar_t* Value);
+
+/*
+ * Applies the profile that a parameter's present value selects to a log device. For "baudrate", and for the
+ * value "3" of "busparam", these are the values that the protocol has for it. For another value of "busparam"
+ * the protocol has further parameters below it: the first of them whose value in the log device has any
+ * values, gives them, and none behind it is looked at; one whose value in the log device the protocol doesn't
+ * know ends the call.
+ *
+ *   LogDevice  in  the log device
+ *   Profile    in  the protocol, by its CP_TYPE or its file's name
+ *   Parameter  in  "baudrate" or "busparam"
+ *
+ * PGSP_OK                      all values were written
+ * PGSP_ERR_INVALID_PARAMETERS  an argument is null
+ * PGSP_PROFILE_NO_VALUE        the log device has no such parameter, the protocol has nothing for its value,
+ *                              or a value couldn't be written; those that could stay
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ *
+ * Notifies "LogDevices", the log device, for each value that has changed.
+ */
+int32_t PGSP_LogDeviceSetProfileRBL(const wchar_t* LogDevice, const wchar_t* Profile,
+                                    const wchar_t* Parameter);
+
+/*
+ * Tells whether a protocol has a value of a parameter, with whatever belongs to it.
+ *
+ *   Protocol   in  the protocol
+ *   Parameter  in  the parameter; or parameter\value\subparameter for a parameter below a value, cut at its
+ *                  first two backslashes. With one backslash the value is empty
+ *   Value      in  the value, of the subparameter if there is one
+ *
+ * PGSP_OK                      it has
+ * PGSP_ERR_INVALID_PARAMETERS  an argument is null or empty
+ * PGSP_ERR_PARAM_NOT_FOUND     it hasn't; below a value also when there is no such protocol
+ * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such protocol
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_ProfileCollectionExistsBL(const wchar_t* Protocol, const wchar_t* Parameter,
+                                       const wchar_t* Value);
+
+/*
+ * Reads the description of a parameter's value from a protocol.
+ *
+ *   Profile      in      the protocol
+ *   ParamValue   in      parameter\value, cut at its first backslash; without one it is the value of a
+ *                        parameter without a name
+ *   ParamDesc    out     buffer for the description; with a length of 0 it may be null
+ *   dwParamDesc  in/out  its length in characters
+ *
+ * PGSP_OK                      both are set
+ * PGSP_ERR_INVALID_PARAMETERS  Profile or ParamValue is null or empty, dwParamDesc is null, or there is no
+ *                              buffer for a description that dwParamDesc has room for
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwParamDesc tells the description's length
+ * PGSP_ERR_PARAM_NOT_FOUND     there is none, or no such protocol
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_GetParamDescBL(const wchar_t* Profile, const wchar_t* ParamValue, wchar_t* ParamDesc,
+                            uint32_t* dwParamDesc);
+
+/*
+ * Reads the values that a log device may offer for a parameter: those of its board if the board lists any,
+ * and otherwise those of its protocol. For a CP_TYPE with "L2" in it the baud rates are those of the bus
+ * profile that the log device has.
+ *
+ *   LogDevice  in      the log device
+ *   Parameter  in      the parameter
+ *   Values     out     buffer for the values, each with its terminator, and one more behind the last. THE
+ *                      BUFFER HOLDS ONE CHARACTER MORE THAN dwValues SAYS: that last terminator is neither
+ *                      asked for nor told
+ *   dwValues   in/out  its length in characters without that one; out, the characters written without it
+ *
+ * PGSP_OK                      both are set; a parameter that neither of the two knows has no values
+ * PGSP_ERR_INVALID_PARAMETERS  LogDevice or Parameter is null or empty, an output is null, or the length is 0
+ * PGSP_ERR_BUFFER_TOO_SHORT    the values that fit are there, without a terminator behind the last, and
+ *                              dwValues tells the characters written; how many are needed is not told
+ * PGSP_ERR_PARAM_NOT_FOUND     there is no such log device, or it has no DeviceID, or where the protocol is
+ *                              asked no CP_TYPE, or no "busparam" for an "L2"
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_LogDeviceGetMostSpecializedEnumListBL(const wchar_t* LogDevice, const wchar_t* Parameter,
+                                                   wchar_t* Values, uint32_t* dwValues);
+
+/*
+ * Reads the values of a parameter that the board and the protocol of a log device both list, in the board's
+ * order; when only one of the two lists any, those. What stands behind a "/" isn't compared; case is.
+ *
+ *   LogDevice  in      the log device
+ *   Parameter  in      the parameter
+ *   Values     out     buffer for the values as the board has them, each with its terminator, and one more
+ *                      behind the last
+ *   dwValues   in/out  its length in characters; out, the characters written without the last terminator
+ *
+ * PGSP_OK                      both are set; two lists that have nothing in common make an empty one
+ * PGSP_ERR_INVALID_PARAMETERS  LogDevice or Parameter is null or empty, an output is null, or the length is 0
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValues tells the characters needed, and the buffer's first 260 characters
+ *                              are as they were; or only the last terminator has no room, and dwValues tells
+ *                              what was written
+ * PGSP_ERR_PARAM_NOT_FOUND     neither of the two lists any; or there is no such log device, or it has no
+ *                              DeviceID, no CP_TYPE, or no "busparam" for an "L2"
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_LogDeviceGetAverageEnumListBL(const wchar_t* LogDevice, const wchar_t* Parameter,
+                                           wchar_t* Values, uint32_t* dwValues);
+
+/* What the catalogue says of a log device -------------------------------------------------------------- */
+
+/*
+ * Reads which ASIC the board of a log device carries: the board's value "Asic_Type".
+ *
+ *   LogDevice   in      the log device
+ *   AsicType    out     buffer for the ASIC's name
+ *   dwAsicType  in/out  its length in characters
+ *
+ * PGSP_OK                      both are set
+ * PGSP_ERR_INVALID_PARAMETERS  LogDevice is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwAsicType tells the name's length, if that stands in the last place where it
+ *                              is looked for; see PGSP_BoardGetValueBL
+ * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such log device or no such board
+ * PGSP_ERR_PARAM_NOT_FOUND     the log device has no DeviceID, or the board doesn't say
+ * PGSP_ERR_FOLDER_NOT_FOUND    the data folder or the program folder can't be found
+ */
+int32_t LogDeviceGetAsicTypeBL(const wchar_t* LogDevice, wchar_t* AsicType, uint32_t* dwAsicType);
+
+/*
+ * Reads a word that the catalogue has for a parameter of a log device: the board's, or else the protocol's.
+ *
+ *   LogDevice  in      the log device
+ *   Parameter  in      the parameter; or parameter\value for the description of that value, which only the
+ *                      protocol has
+ *   ParamDesc  in      the word, such as "type", "min" or "default"; for a value it plays no part, but has to
+ *                      be there
+ *   Value      out     buffer for the word's text
+ *   dwValue    in/out  its length in characters
+ *
+ * PGSP_OK                               Value and dwValue are set
+ * PGSP_ERR_INVALID_PARAMETERS           a name is null or empty, an output is null, or the length is 0
+ * PGSP_ERR_BUFFER_TOO_SHORT             dwValue tells the length of the protocol's text. A text of the
+ *                                       board's that doesn't fit is passed over
+ * PGSP_ERR_ACCESS_DENIED                the log device can't be read for lack of rights
+ * PGSP_ERR_LOG_DEVICE_NOT_EXISTS        there is no such log device
+ * PGSP_ERR_PARAM_DESC_NOT_FOUND         neither the board nor the protocol has it
+ * PGSP_ERR_PARAMETER_DEFAULT_NOT_FOUND  the board doesn't have it, and the log device has no CP_TYPE
+ * PGSP_ERR_CANT_LOAD_XML_FILE           the board doesn't have it, and there is no such protocol
+ * PGSP_ERR_FOLDER_NOT_FOUND             the data folder or the program folder can't be found
+ */
+int32_t LogDeviceGetParamDescBL(const wchar_t* LogDevice, const wchar_t* Parameter, const wchar_t* ParamDesc,
+                                wchar_t* Value, uint32_t* dwValue);
+
 /* Network device identity: what tools show of a log device -------------------------------------------
  *
  * The section Ndi of a log device holds plain parameters; its section UserInterface, or for 64-bit processes
@@ -1005,6 +1202,183 @@ int32_t PGSP_TemplateGetResourceStringBL(const wchar_t* FolderName, const wchar_
                                          const wchar_t* Parameter, const wchar_t* Language, wchar_t* Value,
                                          uint32_t* dwValue, int32_t flag);
 
+/* Files of the catalogue: boards, protocols and templates alike -----------------------------------------
+ *
+ * A folder word is "Boards", "Protocols" or "DefaultLogDevices" in any case, or the name of another folder
+ * beside those. In the three a file is named as a person knows it or by its file's name with what that begins
+ * with; in another folder, and where it is said, by its file's name alone. ".xml" may be left out.
+ */
+
+/*
+ * Tells whether a file of the catalogue exists and may be used, or whether a template has a subdevice.
+ *
+ *   Folder    in  the folder word
+ *   Template  in  the file's name, looked for in small letters; in "DefaultLogDevices", which has to be in
+ *                 this case for it, also file\subdevices\sub with the whole name of the file
+ *   flag      in  what is asked: 0 existence, 2 writing, 4 reading, 6 both; for a subdevice it plays no part
+ *
+ * PGSP_OK                      it does
+ * PGSP_ERR_ACCESS_DENIED       it exists, the access isn't allowed
+ * PGSP_ERR_INVALID_PARAMETERS  Folder or Template is null, flag is another number, or the name makes no path;
+ *                              a template's also when it is empty
+ * PGSP_ERR_BUFFER_TOO_SHORT    a template's escaped name has 260 characters or more
+ * PGSP_ERR_FILE_NOT_FOUND      there is no such file
+ * PGSP_ERR_CANT_LOAD_XML_FILE  the template of the subdevice can't be read
+ * PGSP_ERR_PARAM_NOT_FOUND     the template has no such subdevice
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_TemplateExistBL(const wchar_t* Folder, const wchar_t* Template, int32_t flag);
+
+/*
+ * Tells whether a file of the catalogue holds what a key names.
+ *
+ *   Folder    in  the folder word; in another folder every key is there, and no file is looked at
+ *   Template  in  the file's name, looked for in small letters
+ *   Key       in  a path such as "Constraints\baudrate"
+ *   flag      in  not used
+ *
+ * PGSP_OK                      it does
+ * PGSP_ERR_INVALID_PARAMETERS  a name is null or empty, or Key has more than three parts, of a protocol five
+ * PGSP_ERR_BUFFER_TOO_SHORT    the escaped path has 260 characters or more
+ * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such file
+ * PGSP_ERR_PARAM_NOT_FOUND     it doesn't
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_TemplateKeyExistsBL(const wchar_t* Folder, const wchar_t* Template, const wchar_t* Key,
+                                 int32_t flag);
+
+/*
+ * Enumerates a list of values of a file of the catalogue.
+ *
+ *   Folder    in      the folder word
+ *   Template  in      the file's name
+ *   Key       in      the list's path, such as "Constraints\baudrate"
+ *   index     in      which one
+ *   Value     out     buffer for the value
+ *   dwValue   in/out  its length in characters
+ *
+ * PGSP_OK                      Value and dwValue are set
+ * PGSP_ERR_INVALID_PARAMETERS  Folder or Template is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the value's length
+ * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one
+ * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such file
+ * PGSP_ERR_PARAM_NOT_FOUND     the file has no such list
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_TemplateGetEnumValueRawBL(const wchar_t* Folder, const wchar_t* Template, const wchar_t* Key,
+                                       uint32_t index, wchar_t* Value, uint32_t* dwValue);
+
+/*
+ * Reads a word that a file of the catalogue has for a parameter. An answer, also that there is none, stays as
+ * it was read first until the process ends.
+ *
+ *   FolderName  in      the folder word
+ *   fileName    in      the file's name; a template's with what it begins with
+ *   Parameter   in      the parameter
+ *   Constraint  in      the word, such as "type", "min" or "default"
+ *   Value       out     buffer for the word's text
+ *   dwValue     in/out  its length in characters
+ *
+ * PGSP_OK                      Value and dwValue are set
+ * PGSP_ERR_INVALID_PARAMETERS  a name is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the text's length
+ * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such file
+ * PGSP_ERR_PARAM_NOT_FOUND     the file has no such parameter or word
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_TemplateGetConstraintBL(const wchar_t* FolderName, const wchar_t* fileName,
+                                     const wchar_t* Parameter, const wchar_t* Constraint, wchar_t* Value,
+                                     uint32_t* dwValue);
+
+/*
+ * Sets a parameter in a file of the catalogue, of a section of log devices or boards; it has to be there.
+ *
+ *   Folder     in  the folder word
+ *   fileName   in  the file's name
+ *   Parameter  in  the parameter
+ *   Value      in  the value, as the kind of its entry allows it
+ *
+ * PGSP_OK                          set, or set already: a value that differs in case alone is the same
+ * PGSP_ERR_INVALID_PARAMETERS      Parameter is null or empty, Value is null, or malformed for its type
+ * PGSP_ERR_BUFFER_TOO_SHORT        the path has 260 characters or more
+ * PGSP_ERR_FILE_NOT_FOUND          there is no such file
+ * PGSP_ERR_CANT_LOAD_XML_FILE      the file is malformed or over 10,000,000 bytes
+ * PGSP_ERR_CANT_CREATE_XML_ENGINE  the document engine can't be created
+ * PGSP_ERR_CANT_SET_VALUE          the file has no such parameter, or XML can't hold the value
+ * PGSP_ERR_FOLDER_NOT_FOUND        the program folder can't be found
+ *
+ * Notifies "meta", fileName as it was given, when the value has changed. What the library knows of the file
+ * already is not made anew by it.
+ */
+int32_t PGSP_TemplateSetValueBL(const wchar_t* Folder, const wchar_t* fileName, const wchar_t* Parameter,
+                                const wchar_t* Value);
+
+/* Templates read as the log devices that are made from them --------------------------------------------
+ *
+ * A template is named with or without what its file's name begins with, "Automation-OnlineAccess-LDT-".
+ */
+
+/*
+ * Enumerates what a template's file holds: ask for index 0, 1, 2 and so on until the result isn't PGSP_OK.
+ *
+ *   DefDevice  in      the template
+ *   index      in      which one
+ *   Parameter  out     buffer for the name
+ *   parLen     in/out  its length in characters
+ *   Value      out     buffer for the value
+ *   valLen     in/out  its length in characters
+ *
+ * PGSP_OK                      all four are set
+ * PGSP_ERR_INVALID_PARAMETERS  DefDevice is null or empty, an output is null, or a length is 0
+ * PGSP_ERR_BUFFER_TOO_SHORT    a buffer is too small and its length now tells; the name goes first, so a name
+ *                              that doesn't fit leaves Value and valLen as they were
+ * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one. The file is read anew then
+ * PGSP_ERR_FILE_NOT_FOUND      there is no such template
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_DefDeviceGetEnumValueBL(const wchar_t* DefDevice, uint32_t index, wchar_t* Parameter,
+                                     uint32_t* parLen, wchar_t* Value, uint32_t* valLen);
+
+/*
+ * Reads one value of a template: an attribute of its root element, or else a parameter of DeviceHeader,
+ * LocalSettings, NetworkSettings, Bindings or Ndi in this order, or else a link as "library,function" or
+ * "library,number". A place whose value doesn't fit the buffer is passed over like one without.
+ *
+ *   DefDevice  in      the template
+ *   Parameter  in      the parameter; null or "" stands for "(default)"
+ *   Value      out     buffer for the value
+ *   dwValue    in/out  its length in characters
+ *   flag       in      the section of links: 0 UserInterface64, any other number UserInterface
+ *
+ * PGSP_OK                      Value and dwValue are set
+ * PGSP_ERR_INVALID_PARAMETERS  DefDevice is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    a link doesn't fit; dwValue tells its length
+ * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such template
+ * PGSP_ERR_PARAM_NOT_FOUND     the template has no such value
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_DefDeviceGetValueBL(const wchar_t* DefDevice, const wchar_t* Parameter, wchar_t* Value,
+                                 uint32_t* dwValue, int32_t flag);
+
+/*
+ * Reads one value of a template from a place that the caller names.
+ *
+ *   DefDevice      in      the template
+ *   ParameterPath  in      the section; null or "" for an attribute of the root element
+ *   Parameter      in      the parameter, or the attribute; it has to be given
+ *   Value          out     buffer for the value
+ *   dwValue        in/out  its length in characters
+ *
+ * PGSP_OK                      Value and dwValue are set
+ * PGSP_ERR_INVALID_PARAMETERS  DefDevice or Parameter is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the value's length
+ * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such template
+ * PGSP_ERR_PARAM_NOT_FOUND     it has no such value there
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_DefDeviceGetValueRawBL(const wchar_t* DefDevice, const wchar_t* ParameterPath,
+                                    const wchar_t* Parameter, wchar_t* Value, uint32_t* dwValue);
+
 /* Lists of files ------------------------------------------------------------------------------------ */
 
 /*
@@ -1023,6 +1397,23 @@ int32_t PGSP_TemplateGetResourceStringBL(const wchar_t* FolderName, const wchar_
  * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
  */
 int32_t PGSP_TemplateGetListBL(const wchar_t* FolderName, wchar_t* Templates, uint32_t* dwTemplates);
+
+/*
+ * Enumerates the files of a catalogue folder as the files are called.
+ *
+ *   FolderName    in      as above
+ *   index         in      which one
+ *   TemplateName  out     buffer for the name, without extension
+ *   TemplateLen   in/out  its length in characters
+ *
+ * PGSP_OK                      both are set
+ * PGSP_ERR_INVALID_PARAMETERS  FolderName is null or empty, an output is null, or the length is 0
+ * PGSP_ERR_BUFFER_TOO_SHORT    TemplateLen tells the name's length
+ * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one
+ * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
+ */
+int32_t PGSP_TemplateGetEnumBL(const wchar_t* FolderName, uint32_t index, wchar_t* TemplateName,
+                               uint32_t* TemplateLen);
 
 /*
  * Enumerates the files of a catalogue folder as a person knows them: boards by their DeviceID, all others
@@ -1070,6 +1461,138 @@ int32_t PGSP_GetLogNameListBL(wchar_t* LogNames, uint32_t* dwLogNames);
  */
 int32_t PGSP_GetLogDeviceListExBL(const wchar_t* EntryName, const wchar_t* EntryValue, uint32_t mode,
                                   wchar_t* LogDevices, uint32_t* dwLogDevices);
+
+/* Settings: values of this machine that belong to no log device ---------------------------------------- */
+
+/*
+ * Reads one of the machine's settings.
+ *
+ *   Parameter  in      the setting
+ *   Value      out     buffer for the value
+ *   dwValue    in/out  its length in characters
+ *
+ * PGSP_OK                      Value and dwValue are set
+ * PGSP_ERR_INVALID_PARAMETERS  Parameter is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the value's length
+ * PGSP_ERR_CANT_LOAD_XML_FILE  nothing was ever set, or the file can't be read
+ * PGSP_ERR_PARAM_NOT_FOUND     there is no such setting
+ * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
+ */
+int32_t GetValueInPGSP_BL(const wchar_t* Parameter, wchar_t* Value, uint32_t* dwValue);
+
+/*
+ * Sets one of the machine's settings; the first one makes the file.
+ *
+ *   Parameter  in  the setting, without blanks and without any of  []^!"$%&()=?'#+><*|;,  the section sign
+ *                  and the acute accent. "LastStartupTime", "LastStartupClock" and "LastChangeDate", in this
+ *                  case, are kept apart from all others
+ *   Value      in  the value, without < and >
+ *
+ * PGSP_OK                          set, or set already: a value that differs in case alone is the same
+ * PGSP_ERR_INVALID_PARAMETERS      Parameter is null or empty, Value is null, or a character isn't allowed
+ * PGSP_ERR_BUFFER_TOO_SHORT        the path has 260 characters or more
+ * PGSP_ERR_CANT_CREATE_FILE        the file can't be created or saved
+ * PGSP_ERR_CANT_CREATE_XML_ENGINE  the document engine can't be created; an empty file may stay behind
+ * PGSP_ERR_CANT_LOAD_XML_FILE      the file is malformed or over 10,000,000 bytes
+ * PGSP_ERR_CANT_SET_VALUE          the file lacks the section, or XML can't hold the value
+ * PGSP_ERR_FOLDER_NOT_FOUND        the data folder can't be found
+ *
+ * Notifies nobody.
+ */
+int32_t SetValueInPGSP_BL(const wchar_t* Parameter, const wchar_t* Value);
+
+/* Parameter data: flat files of named parameters, of the catalogue or of a caller's own ------------------
+ *
+ * A file is found below a root by a folder, perhaps a subfolder, and its name, ".xml" left out. Names of
+ * parameters are compared without regard to case. All of these need COM on the calling thread.
+ */
+
+/*
+ * Reads one parameter of a file.
+ *
+ *   Folder     in      "meta" in any case for the program folder's folder of that name; any other folder lies
+ *                      in the data folder: "data" for what PGSP_SetParameterDataBL writes
+ *   Subfolder  in      the folder in it, or folders with backslashes between; null or "" for none
+ *   File       in      the file's name
+ *   Parameter  in      the parameter
+ *   Value      out     buffer for the value; empty, one character, after every failure, whatever dwValue says
+ *   dwValue    in/out  its length in characters
+ *
+ * PGSP_OK                          Value and dwValue are set
+ * PGSP_ERR_INVALID_PARAMETERS      Folder, File or Parameter is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT        dwValue tells the value's length; also, with dwValue as it was, for a path
+ *                                  of 260 characters or more
+ * PGSP_ERR_FILE_NOT_FOUND          there is no such file
+ * PGSP_ERR_CANT_LOAD_XML_FILE      the file is malformed or over 10,000,000 bytes
+ * PGSP_ERR_CANT_CREATE_XML_ENGINE  COM isn't initialised on this thread
+ * PGSP_ERR_PARAM_NOT_FOUND         the file has no such parameter
+ * PGSP_ERR_FOLDER_NOT_FOUND        the program folder or the data folder can't be found
+ */
+int32_t PGSP_GetParameterMetaDataBL(const wchar_t* Folder, const wchar_t* Subfolder, const wchar_t* File,
+                                    const wchar_t* Parameter, wchar_t* Value, uint32_t* dwValue);
+
+/*
+ * Enumerates the parameters of a file.
+ *
+ *   Folder     in      as above
+ *   Subfolder  in      as above
+ *   File       in      the file's name
+ *   index      in      which one
+ *   Parameter  out     buffer for the name; with a length of 0 it may be null
+ *   parLen     in/out  its length in characters
+ *   Value      out     buffer for the value, which is written first; empty, one character, after a failure,
+ *                      whatever valLen says. With a length of 0 it may be null
+ *   valLen     in/out  its length in characters
+ *
+ * PGSP_OK                          all four are set
+ * PGSP_ERR_INVALID_PARAMETERS      Folder or File is null or empty; or an output is null that is to be set: a
+ *                                  null name leaves the value set
+ * PGSP_ERR_BUFFER_TOO_SHORT        a buffer is too small and its length now tells; a value that doesn't fit
+ *                                  leaves Parameter and parLen as they were; also for a path of 260
+ *                                  characters or more
+ * PGSP_ERR_PARAM_NOT_FOUND         index lies past the last one
+ * PGSP_ERR_FILE_NOT_FOUND, PGSP_ERR_CANT_LOAD_XML_FILE, PGSP_ERR_CANT_CREATE_XML_ENGINE,
+ * PGSP_ERR_FOLDER_NOT_FOUND        as above
+ */
+int32_t PGSP_EnumParameterMetaDataBL(const wchar_t* Folder, const wchar_t* Subfolder, const wchar_t* File,
+                                     uint32_t index, wchar_t* Parameter, uint32_t* parLen, wchar_t* Value,
+                                     uint32_t* valLen);
+
+/*
+ * Sets one parameter of a file below the data folder's "data". The file has to be there.
+ *
+ *   Subfolder  in  the folder in it; null or "" for none
+ *   File       in  the file's name
+ *   Parameter  in  the parameter; one that isn't there is made
+ *   Value      in  the value
+ *   Type       in  "int", "bool", or any other for a text, null too. Parameters of another type don't count
+ *
+ * PGSP_OK                          set, or set already: here a value in another case is another value
+ * PGSP_ERR_INVALID_PARAMETERS      File or Parameter is null or empty, or Value is null
+ * PGSP_ERR_BUFFER_TOO_SHORT        the path has 260 characters or more
+ * PGSP_ERR_FILE_NOT_FOUND          there is no such file
+ * PGSP_ERR_CANT_LOAD_XML_FILE      the file is malformed or over 10,000,000 bytes
+ * PGSP_ERR_CANT_CREATE_XML_ENGINE  COM isn't initialised on this thread
+ * PGSP_ERR_CANT_SET_VALUE          XML can't hold the name or the value, or the entry has none to set
+ * PGSP_ERR_FOLDER_NOT_FOUND        the data folder can't be found
+ *
+ * Notifies nobody.
+ */
+int32_t PGSP_SetParameterDataBL(const wchar_t* Subfolder, const wchar_t* File, const wchar_t* Parameter,
+                                const wchar_t* Value, const wchar_t* Type);
+
+/*
+ * Removes one parameter of a file below the data folder's "data": the first of its name, of whatever type.
+ *
+ *   Subfolder  in  the folder in it; null or "" for none
+ *   File       in  the file's name
+ *   Parameter  in  the parameter
+ *
+ * Results as PGSP_SetParameterDataBL; PGSP_ERR_CANT_SET_VALUE when there is no such parameter.
+ *
+ * Notifies nobody.
+ */
+int32_t PGSP_DelParameterDataBL(const wchar_t* Subfolder, const wchar_t* File, const wchar_t* Parameter);
 
 /* Notification: named events of the caller's, set when a stored file changes ------------------------ */
 

@@ -43,22 +43,6 @@ std::vector<Node> ValueSections(const Node& parameterSection, std::wstring_view 
     return sections;
 }
 
-std::wstring ConstraintKey(std::wstring_view parameter)
-{
-    return JoinPath(L"Constraints", parameter);
-}
-
-std::wstring ConstraintKey(std::wstring_view parameter, std::wstring_view value)
-{
-    return JoinPath(ConstraintKey(parameter), value);
-}
-
-std::wstring ConstraintKey(std::wstring_view parameter, std::wstring_view value,
-                           std::wstring_view subParameter, std::wstring_view subValue)
-{
-    return JoinPath(JoinPath(ConstraintKey(parameter, value), subParameter), subValue);
-}
-
 const cEpaBlElement* ElementAt(const cEpaBlElement& root, std::wstring_view path)
 {
     const cEpaBlElement* found = nullptr;

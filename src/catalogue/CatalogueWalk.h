@@ -2,6 +2,7 @@
 
 // What the walks over catalogue files have in common: the path, the sections, the elements that hold a value.
 
+#include "catalogue/ConstraintKey.h"
 #include "meta/cEpaBlElement.h"
 #include "xml/Document.h"
 
@@ -20,12 +21,6 @@ namespace norvepa
 
 // Document: the sections of the values with this `Param` in the collections of a parameter's section.
 [[nodiscard]] std::vector<Node> ValueSections(const Node& parameterSection, std::wstring_view param);
-
-// Tree: the path of a value below a parameter, and below a parameter of that value.
-[[nodiscard]] std::wstring ConstraintKey(std::wstring_view parameter);
-[[nodiscard]] std::wstring ConstraintKey(std::wstring_view parameter, std::wstring_view value);
-[[nodiscard]] std::wstring ConstraintKey(std::wstring_view parameter, std::wstring_view value,
-                                         std::wstring_view subParameter, std::wstring_view subValue);
 
 // Tree: the element at a path; null when there is none or the path is too long.
 [[nodiscard]] const cEpaBlElement* ElementAt(const cEpaBlElement& root, std::wstring_view path);

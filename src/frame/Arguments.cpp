@@ -18,4 +18,13 @@ Result CopyOut(std::wstring_view text, wchar_t* buffer, std::uint32_t* length) n
     return PGSP_OK;
 }
 
+Result CopyOutUntested(std::wstring_view text, wchar_t* buffer, std::uint32_t* length) noexcept
+{
+    if (length == nullptr || (buffer == nullptr && *length > text.size()))
+    {
+        return PGSP_ERR_INVALID_PARAMETERS;
+    }
+    return CopyOut(text, buffer, length);
+}
+
 } // namespace norvepa

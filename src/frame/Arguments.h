@@ -41,4 +41,8 @@ inline constexpr wchar_t DefaultParameter[] = L"(default)";
 // PGSP_OK or PGSP_ERR_BUFFER_TOO_SHORT. Buffer and length must be there.
 [[nodiscard]] Result CopyOut(std::wstring_view text, wchar_t* buffer, std::uint32_t* length) noexcept;
 
+// The same where neither has been tested: a null buffer may ask for the length, and
+// PGSP_ERR_INVALID_PARAMETERS tells that there is no length, or no buffer for a text that fits.
+[[nodiscard]] Result CopyOutUntested(std::wstring_view text, wchar_t* buffer, std::uint32_t* length) noexcept;
+
 } // namespace norvepa

@@ -1,7 +1,5 @@
 #include "service/AccessTest.h"
 
-#include "frame/StoreLocations.h"
-
 #include <io.h>
 
 #include <cerrno>
@@ -34,9 +32,8 @@ bool IsAccessMode(std::int32_t flag) noexcept
     return flag == 0 || flag == 2 || flag == 4 || flag == 6;
 }
 
-Result TestAccess(const ExportFrame& frame, std::wstring file, std::int32_t flag, TracePlace place)
+Result TestAccess(const ExportFrame& frame, const std::wstring& file, std::int32_t flag, TracePlace place)
 {
-    ExtendByAnywhereRule(file);
     const errno_t error = _waccess_s(file.c_str(), flag);
     NORV_TRACE_AT(place, frame, TraceExit, "<< errno_t err = %d", error);
     return ResultOfAccess(error);

@@ -53,7 +53,7 @@ void DeviceCatalogue::ReadAttributes()
 
     // The prefix goes ahead of whatever the device names, also of a name that has it already.
     std::wstring board(BoardPrefix);
-    board += std::wstring_view(m_deviceId).substr(m_deviceId.starts_with(L'*') ? 1 : 0);
+    board += WithoutStar(m_deviceId);
     std::wstring protocol(ProtocolPrefix);
     protocol += m_netType;
     m_board = BoardFile(ProgramFolder(), board);

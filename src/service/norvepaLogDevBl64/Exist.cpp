@@ -34,8 +34,9 @@ int32_t LogDeviceExistBL(const wchar_t* LogDevice, int32_t flag)
             return result;
         }
 
-        const std::wstring file = LogDeviceFile(dataFolder, escaped);
+        std::wstring file = LogDeviceFile(dataFolder, escaped);
         NORV_TRACE(frame, TraceInfo, "Calling _waccess_s for Logdevice: %s", TraceToAnsi(file.c_str()));
+        ExtendByAnywhereRule(file);
         return TestAccess(frame, file, flag);
     });
 }

@@ -92,8 +92,9 @@ int32_t LogNameExistBL(const wchar_t* LogName, int32_t flag)
             return frame.FolderNotFound("Can not get ProgramData Path");
         }
 
-        const std::wstring file = LogNameFile(dataFolder, escaped);
+        std::wstring file = LogNameFile(dataFolder, escaped);
         NORV_TRACE(frame, TraceInfo, "Calling _waccess_s for LogName: %s", TraceToAnsi(file.c_str()));
+        ExtendByAnywhereRule(file);
         return TestAccess(frame, file, flag);
     });
 }

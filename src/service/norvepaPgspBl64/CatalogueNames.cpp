@@ -30,12 +30,12 @@ std::wstring WithPrefix(std::wstring_view name, std::wstring_view prefix)
     return whole;
 }
 
+} // namespace
+
 std::wstring_view WithoutStar(std::wstring_view name)
 {
     return name.substr(name.starts_with(L'*') ? 1 : 0);
 }
-
-} // namespace
 
 std::wstring MakeBoardNameTestFirst(std::wstring_view board)
 {

@@ -24,8 +24,11 @@ inline constexpr std::wstring_view BoardPrefix = L"Automation-OnlineAccess-BT-";
 inline constexpr std::wstring_view ProtocolPrefix = L"Automation-OnlineAccess-PT-";
 inline constexpr std::wstring_view TemplatePrefix = L"Automation-OnlineAccess-LDT-";
 
-// The file name of a board. A "*", with which a log device's `DeviceID` may begin, is dropped; but a name
-// that holds the prefix anywhere keeps it in the first form.
+// A name without the "*" with which a log device's `DeviceID` may begin.
+[[nodiscard]] std::wstring_view WithoutStar(std::wstring_view name);
+
+// The file name of a board. A "*" is dropped; but a name that holds the prefix anywhere keeps it in the first
+// form.
 [[nodiscard]] std::wstring MakeBoardNameTestFirst(std::wstring_view board);
 [[nodiscard]] std::wstring MakeBoardNameStripFirst(std::wstring_view board);
 

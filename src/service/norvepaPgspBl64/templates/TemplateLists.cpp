@@ -106,6 +106,35 @@ int32_t PGSP_TemplateGetListBL(const wchar_t* FolderName, wchar_t* Templates, ui
     });
 }
 
+int32_t PGSP_TemplateGetEnumBL(const wchar_t* FolderName, uint32_t index, wchar_t* TemplateName,
+                               uint32_t* TemplateLen)
+{
+    return RunExport("PGSP_TemplateGetEnumBL: ", [&](const ExportFrame& frame) -> Result {
+        NORV_TRACE(frame, TraceEntry, ">> FolderName = %s, index = %d", TraceToAnsi(FolderName), index);
+        if (IsMissing(FolderName))
+        {
+            return frame.InvalidParameters();
+        }
+        const std::wstring programFolder = GetProgramFolder();
+        if (programFolder.empty())
+        {
+            return frame.FolderNotFound("Can not get FilesOAM Path");
+        }
+
+        const std::wstring folder = CatalogueFolder(programFolder, FolderName);
+        NORV_TRACE(frame, TraceInfo, "Enumerating templates from: %s", TraceToAnsi(folder.c_str()));
+        if (const Result result = NorvXMLEnumFileName(folder.c_str(), index, TemplateName, TemplateLen);
+            result != PGSP_OK)
+        {
+            return frame.Return(result);
+        }
+        // The index of the next one, unlike in the form without prefix.
+        NORV_TRACE(frame, TraceExit, "<< return TemplateName = %s, TemplateLen = %d, index = %d",
+                   TraceToAnsi(TemplateName), *TemplateLen, index + 1);
+        return PGSP_OK;
+    });
+}
+
 int32_t PGSP_TemplateGetEnumNoPrefixBL(const wchar_t* FolderName, uint32_t index, wchar_t* TemplateName,
                                        uint32_t* TemplateLen)
 {

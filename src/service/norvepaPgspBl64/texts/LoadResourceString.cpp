@@ -153,12 +153,6 @@ Result LoadText(const ExportFrame& frame, const Root& root, std::wstring_view la
     return text.empty() ? PGSP_ERR_CANT_LOAD_RESOURCE : PGSP_OK;
 }
 
-// A null buffer may ask for the length.
-bool CanTake(const wchar_t* buffer, const std::uint32_t* length, std::wstring_view text)
-{
-    return length != nullptr && (buffer != nullptr || *length <= text.size());
-}
-
 } // namespace
 
 Result PGSP_LoadResourceString(const wchar_t* XmlFile, const wchar_t* Parameter, const wchar_t* Language,
@@ -188,7 +182,7 @@ Result PGSP_LoadResourceString(const wchar_t* XmlFile, const wchar_t* Parameter,
     }
     const Root root = RootOf(frame, link.path, JoinPath(programFolder, L"bin"));
     std::wstring text;
-    const Result result = LoadText(frame, root, language, link, text);
+    Result result = LoadText(frame, root, language, link, text);
     if (result == PGSP_ERR_CANT_LOAD_RESOURCE)
     {
         NORV_TRACE(frame, TraceWarning, "Can not load Resource resourceNumber = %d",
@@ -198,11 +192,8 @@ Result PGSP_LoadResourceString(const wchar_t* XmlFile, const wchar_t* Parameter,
     {
         return result;
     }
-    if (!CanTake(buffer, length, text))
-    {
-        return PGSP_ERR_INVALID_PARAMETERS;
-    }
-    return frame.Return(CopyOut(text, buffer, length));
+    result = CopyOutUntested(text, buffer, length);
+    return result == PGSP_ERR_INVALID_PARAMETERS ? result : frame.Return(result);
 }
 
 } // namespace norvepa

@@ -1,39 +1,15 @@
 #include "frame/Arguments.h"
 #include "frame/ExportFrame.h"
-#include "frame/Text.h"
 #include "norvepa.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 #include "service/norvepaLogNamBl64/norvepaLogNamBl64.h"
+#include "service/norvepaPgspBl64/NameForms.h"
 #include "service/norvepaPgspBl64/norvepaPgspBl64.h"
 #include "service/norvepaPgspBl64/texts/LoadResourceString.h"
 
 #include <string>
 
 using namespace norvepa;
-
-namespace
-{
-
-// The name of a file in a folder of the catalogue. Any other folder's is taken as it comes.
-Result MakeNameIn(const wchar_t* folder, const wchar_t* name, std::wstring& made)
-{
-    if (EqualNoCase(folder, TemplatesWord))
-    {
-        return MakeTemplateNameEscaping(name, made);
-    }
-    made = name;
-    if (EqualNoCase(folder, BoardsWord))
-    {
-        made = MakeBoardNameStripFirst(name);
-    }
-    if (EqualNoCase(folder, ProtocolsWord))
-    {
-        made = MakeProtocolName(name);
-    }
-    return PGSP_OK;
-}
-
-} // namespace
 
 int32_t PGSP_LogDeviceGetResourceStringBL(const wchar_t* LogDevice, const wchar_t* Parameter,
                                           const wchar_t* Language, wchar_t* Value, uint32_t* dwValue,
@@ -101,13 +77,13 @@ int32_t PGSP_TemplateGetResourceStringBL(const wchar_t* FolderName, const wchar_
         {
             return frame.FolderNotFound("Can not get FilesOAM Path");
         }
-        std::wstring name;
-        if (const Result result = MakeNameIn(FolderName, TemplateName, name); result != PGSP_OK)
+        std::wstring file;
+        if (const Result result =
+                MakeFileIn(TemplateGetResourceStringForms, programFolder, FolderName, TemplateName, file);
+            result != PGSP_OK)
         {
             return result; // without an exit trace
         }
-
-        const std::wstring file = JoinPath(CatalogueFolder(programFolder, FolderName), name);
         return frame.Return(PGSP_LoadResourceString(file.c_str(), Parameter, Language, Value, dwValue, flag));
     });
 }

@@ -1,0 +1,231 @@
+#include "catalogue/norvxmlCatalogue.h"
+#include "frame/Arguments.h"
+#include "frame/Text.h"
+#include "norvepa.h"
+#include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
+#include "service/norvepaPgspBl64/norvepaPgspBl64.h"
+#include "service/norvepaPgspBl64/profiles/profiles.h"
+
+#include <cstdint>
+#include <optional>
+
+using namespace norvepa;
+
+namespace
+{
+
+// A log device, and what is chosen for it: a parameter's value in its protocol's file.
+struct Choice
+{
+    const wchar_t* logDevice;
+    const wchar_t* parameter;
+    std::wstring file;
+    std::wstring value;
+};
+
+enum class ProfileKind
+{
+    Direct,      // the value's own pairs
+    SubProfiles, // those of a value of another parameter below it
+    None
+};
+
+ProfileKind KindOf(const Choice& choice)
+{
+    if (EqualNoCase(choice.parameter, PGSP_PARAM_BAUDRATE))
+    {
+        return ProfileKind::Direct;
+    }
+    if (!EqualNoCase(choice.parameter, PGSP_PARAM_PROFILES))
+    {
+        return ProfileKind::None;
+    }
+    return EqualNoCase(choice.value, PGSP_PARAM_PROFILES_USER) ? ProfileKind::Direct
+                                                               : ProfileKind::SubProfiles;
+}
+
+bool HasCollection(const ExportFrame& frame, const Choice& choice)
+{
+    NORV_TRACE(frame, TraceInfo, ">> NorvXMLProfileCollectionExists");
+    return NorvXMLProfileCollectionExists(choice.file.c_str(), choice.parameter, choice.value.c_str()) ==
+           PGSP_OK;
+}
+
+// Writes the pairs that `next` answers by index, until it has no more. A pair that can't be written doesn't
+// keep back those behind it. PGSP_OK when all were written, PGSP_PROFILE_NO_VALUE when one wasn't; none when
+// there was no pair.
+template <typename Next>
+std::optional<Result> WritePairs(const wchar_t* logDevice, const Next& next)
+{
+    std::optional<Result> written;
+    std::wstring name;
+    std::wstring value;
+    for (std::uint32_t index = 0; next(index, &name, &value) == PGSP_OK; ++index)
+    {
+        const bool isWritten =
+            AnswerOf(LogDeviceSetValueBL(logDevice, name.c_str(), value.c_str())) == PGSP_OK;
+        written = isWritten ? written.value_or(PGSP_OK) : PGSP_PROFILE_NO_VALUE;
+    }
+    return written;
+}
+
+std::optional<Result> WriteDirectProfile(const ExportFrame& frame, const Choice& choice)
+{
+    NORV_TRACE(frame, TraceInfo,
+               "sParam=PGSP_PARAM_BAUDRATE or (sParam=PGSP_PARAM_PROFILES and "
+               "sParamValue=PGSP_PARAM_PROFILES_USER)");
+    if (!HasCollection(frame, choice))
+    {
+        return std::nullopt;
+    }
+    NORV_TRACE(frame, TraceInfo, "while NorvXMLEnumProfileValue");
+    return WritePairs(choice.logDevice, [&](std::uint32_t index, std::wstring* name, std::wstring* value) {
+        return NorvXMLEnumProfileValue(choice.file.c_str(), choice.parameter, choice.value.c_str(), index,
+                                       name, value);
+    });
+}
+
+std::optional<Result> WriteSubProfile(const ExportFrame& frame, const Choice& choice,
+                                      const std::wstring& subParameter, const std::wstring& subValue)
+{
+    NORV_TRACE(frame, TraceInfo, "while NorvXMLEnumSubProfileValue");
+    return WritePairs(choice.logDevice, [&](std::uint32_t index, std::wstring* name, std::wstring* value) {
+        return NorvXMLEnumSubProfileValue(choice.file.c_str(), choice.parameter, choice.value.c_str(),
+                                          subParameter.c_str(), subValue.c_str(), index, name, value);
+    });
+}
+
+// The first sub-parameter that has pairs is the last one looked at, and so is the first whose value in the log
+// device, or that it has none, the protocol doesn't know.
+std::optional<Result> WriteSubProfiles(const ExportFrame& frame, const Choice& choice)
+{
+    NORV_TRACE(frame, TraceInfo, "sParam=PGSP_PARAM_PROFILES  sParamValue=PGSP_PARAM_PROFILES_USER");
+    if (!HasCollection(frame, choice))
+    {
+        return std::nullopt;
+    }
+    NORV_TRACE(frame, TraceInfo, "while NorvXMLEnumSubProfile");
+    std::wstring subParameter;
+    for (std::uint32_t index = 0;
+         NorvXMLEnumSubProfile(choice.file.c_str(), choice.parameter, choice.value.c_str(), index,
+                               &subParameter) == PGSP_OK;
+         ++index)
+    {
+        std::wstring subValue;
+        static_cast<void>(LogDeviceGetValue(choice.logDevice, subParameter.c_str(), &subValue));
+        if (NorvXMLSubProfileCollectionExists(choice.file.c_str(), choice.parameter, choice.value.c_str(),
+                                              subParameter.c_str(), subValue.c_str()) != PGSP_OK)
+        {
+            return std::nullopt;
+        }
+        if (const auto written = WriteSubProfile(frame, choice, subParameter, subValue))
+        {
+            return written;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<Result> WriteProfile(const ExportFrame& frame, const Choice& choice)
+{
+    switch (KindOf(choice))
+    {
+    case ProfileKind::Direct:
+        return WriteDirectProfile(frame, choice);
+    case ProfileKind::SubProfiles:
+        return WriteSubProfiles(frame, choice);
+    case ProfileKind::None:
+        break;
+    }
+    return std::nullopt;
+}
+
+Result ReturnNoValue(const ExportFrame& frame, TracePlace place = TracePlace::current())
+{
+    NORV_TRACE_AT(place, frame, TraceExit, "<< return PGSP_PROFILE_NO_VALUE");
+    return PGSP_PROFILE_NO_VALUE;
+}
+
+// The value of a parameter as a caller reads it; none also for one that doesn't fit.
+std::optional<std::wstring> ReadOldValue(const wchar_t* logDevice, const wchar_t* parameter)
+{
+    constexpr std::uint32_t capacity = 256;
+    std::wstring value(capacity, L'\0');
+    std::uint32_t length = capacity;
+    if (AnswerOf(LogDeviceGetValueBL(logDevice, parameter, value.data(), &length)) != PGSP_OK)
+    {
+        return std::nullopt;
+    }
+    value.resize(length);
+    return value;
+}
+
+} // namespace
+
+int32_t PGSP_LogDeviceSetProfileRBL(const wchar_t* LogDevice, const wchar_t* Profile,
+                                    const wchar_t* Parameter)
+{
+    return RunExport("PGSP_LogDeviceSetProfileRBL: ", [&](const ExportFrame& frame) {
+        NORV_TRACE(frame, TraceEntry, ">> LogDevice = %s, Profile = %s, Parameter = %s",
+                   TraceToAnsi(LogDevice), TraceToAnsi(Profile), TraceToAnsi(Parameter));
+        if (LogDevice == nullptr || Profile == nullptr || Parameter == nullptr)
+        {
+            return frame.InvalidParameters();
+        }
+        Choice choice{LogDevice, Parameter, {}, {}};
+        if (LogDeviceGetValue(LogDevice, Parameter, &choice.value) != PGSP_OK)
+        {
+            return ReturnNoValue(frame);
+        }
+        const std::wstring programFolder = GetProgramFolder();
+        if (programFolder.empty())
+        {
+            return frame.FolderNotFound("Can not get FilesOAM Path");
+        }
+
+        choice.file = ProtocolFile(programFolder, MakeProtocolName(Profile));
+        return WriteProfile(frame, choice) == PGSP_OK ? frame.Ok() : ReturnNoValue(frame);
+    });
+}
+
+namespace norvepa
+{
+
+Result PGSP_LogDeviceEnumSetProfileBL(const wchar_t* LogDevice, const wchar_t* Parameter,
+                                      const wchar_t* Value) noexcept
+{
+    return Result{RunExport("PGSP_LogDeviceEnumSetProfileBL: ", [&](const ExportFrame& frame) -> Result {
+        NORV_TRACE(frame, TraceEntry, ">> LogDevice = %s, Parameter = %s, Value = %s", TraceToAnsi(LogDevice),
+                   TraceToAnsi(Parameter), TraceToAnsi(Value));
+        if (IsMissing(LogDevice) || IsMissing(Parameter) || Value == nullptr)
+        {
+            return frame.InvalidParameters();
+        }
+        const auto oldValue = ReadOldValue(LogDevice, Parameter);
+        if (!oldValue)
+        {
+            NORV_TRACE(frame, TraceExit, "<< return PGSP_ERR_PARAM_NOT_FOUND");
+            return PGSP_ERR_PARAM_NOT_FOUND;
+        }
+
+        if (AnswerOf(LogDeviceSetValueBL(LogDevice, Parameter, Value)) != PGSP_OK)
+        {
+            return ReturnNoValue(frame);
+        }
+        std::wstring protocol;
+        if (LogDeviceGetValue(LogDevice, L"CP_TYPE", &protocol) != PGSP_OK)
+        {
+            return ReturnNoValue(frame); // the new value stays
+        }
+        const Result result{PGSP_LogDeviceSetProfileRBL(LogDevice, protocol.c_str(), Parameter)};
+        if (result != PGSP_OK)
+        {
+            static_cast<void>(LogDeviceSetValueBL(LogDevice, Parameter, oldValue->c_str()));
+            static_cast<void>(AnswerOf(result));
+            return ReturnNoValue(frame);
+        }
+        return frame.Return(PGSP_OK);
+    })};
+}
+
+} // namespace norvepa
