@@ -1,34 +1,124 @@
-#include "ProfileScene.h"
+#include "DirectProfileScene.h"
 
 namespace norvepa::test
 {
 namespace
 {
 
-class SetDirectProfile : public ProfileScene
-{
-protected:
-    // The protocol, of which the value "187500" of `baudrate` and the value "3" of `busparam` hold this.
-    void WriteProfile(const XmlContent& pairs) const
-    {
-        store.WriteProtocol(Catalogue()
-                                .Parameter(L"baudrate", {}, Profiles({{L"187500", pairs}}))
-                                .Parameter(L"busparam", {}, Profiles({{L"3", pairs}})));
-    }
-};
+using SetDirectProfile = DirectProfileScene;
 
-TEST_F(SetDirectProfile, WritesAllPairsOfABaudrate)
+TEST_F(SetDirectProfile, TellsItsParameterInAnyCase)
 {
-    WriteProfile(XmlContent().Int(L"slot", L"100").Text(L"name", L"fast").Bool(L"dp", L"true"));
-    WriteEntries(XmlContent().Text(L"baudrate", L"187500"));
+    WriteProfile(XmlContent().Int(L"slot", L"100"));
+    for (const wchar_t* const parameter : {L"BAUDRATE", L"Baudrate", L"BusParam", L"BUSPARAM"})
+    {
+        WriteEntries(Chosen());
+
+        EXPECT_EQ(SetProfile(parameter), PGSP_OK) << parameter;
+
+        ExpectEntries(Chosen(XmlContent().Text(L"slot", L"100")));
+    }
+}
+
+TEST_F(SetDirectProfile, IsTheOneOfTheDevicesValue)
+{
+    store.WriteProtocol(Catalogue().Parameter(L"baudrate", {},
+                                              Profiles({{L"9600", XmlContent().Int(L"slot", L"9")},
+                                                        {L"auto", XmlContent().Int(L"slot", L"0")},
+                                                        {L"19200", XmlContent().Int(L"slot", L"19")}})));
+    WriteEntries(XmlContent().Text(L"baudrate", L"AUTO").Text(L"slot", L"1"));
+
+    EXPECT_EQ(SetProfile(L"baudrate"), PGSP_OK);
+    ExpectEntries(XmlContent().Text(L"baudrate", L"AUTO").Text(L"slot", L"0"));
+
+    EXPECT_EQ(Set(L"baudrate", L"19200"), PGSP_OK);
+    EXPECT_EQ(SetProfile(L"baudrate"), PGSP_OK);
+    ExpectEntries(XmlContent().Text(L"baudrate", L"19200").Text(L"slot", L"19"));
+}
+
+TEST_F(SetDirectProfile, IsThatOfTheDefaultForADeviceWithoutAValue)
+{
+    store.WriteProtocol(Catalogue().Parameter(L"baudrate", {{L"default", L"187500"}},
+                                              Profiles({{L"187500", XmlContent().Int(L"slot", L"100")}})));
+    WriteEntries({});
 
     EXPECT_EQ(SetProfile(L"baudrate"), PGSP_OK);
 
-    ExpectEntries(XmlContent()
-                      .Text(L"baudrate", L"187500")
-                      .Text(L"slot", L"100")
-                      .Text(L"name", L"fast")
-                      .Text(L"dp", L"true"));
+    ExpectEntries(XmlContent().Text(L"slot", L"100"));
+}
+
+TEST_F(SetDirectProfile, NeedsAValueInTheDevice)
+{
+    WriteProfile(XmlContent().Int(L"slot", L"100"));
+    Write(Spare({}).Element(L"LocalSettings", Chosen())); // where nobody looks without the catalogue's word
+
+    ExpectSetProfileChangesNothing(L"baudrate", PGSP_PROFILE_NO_VALUE);
+    ExpectSetProfileChangesNothing(L"busparam", PGSP_PROFILE_NO_VALUE);
+}
+
+TEST_F(SetDirectProfile, NeedsTheValueInTheCollectionsList)
+{
+    const XmlContent unlisted =
+        XmlContent().ParamSection(L"187500", XmlContent().Int(L"slot", L"100")).Element(L"Value", L"9600");
+    store.WriteProtocol(
+        Catalogue()
+            .Parameter(L"baudrate", {}, XmlContent().Element(L"ValueCollection", unlisted))
+            .Parameter(L"busparam", {}, Profiles({{L"1", XmlContent().Int(L"slot", L"100")}})));
+
+    ExpectNothingWritten();
+}
+
+TEST_F(SetDirectProfile, NeedsACollection)
+{
+    store.WriteProtocol(Catalogue()
+                            .Parameter(L"baudrate", {{L"type", L"string"}})
+                            .Parameter(L"slot", {}, Profiles({{L"3"}, {L"187500"}})));
+
+    ExpectNothingWritten();
+}
+
+TEST_F(SetDirectProfile, GoesByWhatStandsAheadOfASlashInTheList)
+{
+    store.WriteProtocol(
+        Catalogue()
+            .Parameter(L"baudrate", {},
+                       Profiles({{L"187500/187,5 kbit/s", XmlContent().Int(L"slot", L"100")}}))
+            .Parameter(L"busparam", {}, Profiles({{L"3/User", XmlContent().Int(L"slot", L"100")}})));
+
+    ExpectWritten(XmlContent().Text(L"slot", L"100"));
+}
+
+TEST_F(SetDirectProfile, FindsNoValueInAnEmptyCollection)
+{
+    WriteProfile({});
+
+    ExpectNothingWritten();
+}
+
+TEST_F(SetDirectProfile, FindsNoValueInACollectionWithoutPairs)
+{
+    WriteProfile(XmlContent()
+                     .Comment(L"later")
+                     .Element(L"ParamDesc", L"slow")
+                     .Resource({.name = L"slot", .resourceId = L"1"}));
+
+    ExpectNothingWritten();
+}
+
+TEST_F(SetDirectProfile, FindsNoValueForAListedValueWithoutASection)
+{
+    store.WriteProtocol(Catalogue()
+                            .Parameter(L"baudrate", {}, XmlContent().ValueCollection({L"187500"}))
+                            .Parameter(L"busparam", {}, XmlContent().ValueCollection({L"3"})));
+
+    ExpectNothingWritten();
+}
+
+TEST_F(SetDirectProfile, HasNoSubProfiles)
+{
+    WriteProfile(SubParameter(L"medium", {{L"copper", XmlContent().Int(L"slot", L"1")}}));
+
+    ExpectNothingWritten();
 }
 
 } // namespace
