@@ -3,22 +3,10 @@
 // A file of parameter data to ask and to write to.
 
 #include "store/WriteScene.h"
-
-#include <string>
-#include <string_view>
+#include "support/ParameterDataFile.h"
 
 namespace norvepa::test
 {
-
-// Of the kind "x", which new entries have.
-inline constexpr std::wstring_view BaseNamespace =
-    L"http://www.marvolt.example/Automation/Corvane.Device.Driver";
-
-// Such a file, all in that namespace.
-[[nodiscard]] inline std::string DataFile(const XmlContent& content)
-{
-    return XmlFile(L"ParameterData", {{L"xmlns", BaseNamespace}}, content);
-}
 
 class DataScene : public WriteScene
 {
