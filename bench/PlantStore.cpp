@@ -15,19 +15,31 @@ constexpr wchar_t NetType[] = L"L2";
 
 std::string DeviceBytes(std::size_t unit, std::size_t count)
 {
+    test::XmlContent header;
+    header.Int(L"Unit", std::to_wstring(unit)).Bool(L"enable_delete", L"true");
+    test::XmlContent content;
+    content.Element(L"DeviceHeader", header).Element(L"LocalSettings", Parameters(count));
+    return test::LogDeviceFile(content, DeviceId, NetType);
+}
+
+} // namespace
+
+std::wstring ParameterName(std::size_t number)
+{
+    return L"parameter_" + std::to_wstring(number);
+}
+
+test::XmlContent Parameters(std::size_t count)
+{
     test::XmlContent parameters;
     for (std::size_t number = 0; number < count; ++number)
     {
         parameters.Int(ParameterName(number), std::to_wstring(number));
     }
-    test::XmlContent header;
-    header.Int(L"Unit", std::to_wstring(unit)).Bool(L"enable_delete", L"true");
-    test::XmlContent content;
-    content.Element(L"DeviceHeader", header).Element(L"LocalSettings", parameters);
-    return test::LogDeviceFile(content, DeviceId, NetType);
+    return parameters;
 }
 
-std::string ProtocolBytes()
+test::XmlContent ParameterConstraints()
 {
     test::XmlContent constraints;
     for (std::size_t number = 0; number < ParametersOfADevice; ++number)
@@ -41,14 +53,7 @@ std::string ProtocolBytes()
             .ValueCollection({L"0/aus", L"1/ein", L"10/langsam", L"100/schnell"});
         constraints.ParamSection(ParameterName(number), words);
     }
-    return test::ProtocolFile(test::XmlContent().Element(L"Constraints", constraints), NetType);
-}
-
-} // namespace
-
-std::wstring ParameterName(std::size_t number)
-{
-    return L"parameter_" + std::to_wstring(number);
+    return constraints;
 }
 
 PlantStore::PlantStore(std::size_t devices, std::size_t parameters)
@@ -59,7 +64,9 @@ PlantStore::PlantStore(std::size_t devices, std::size_t parameters)
         test::WriteBytes(devicePath(number), DeviceBytes(number, parameters));
     }
     test::WriteBytes(m_roots.board(DeviceId), test::BoardFile(test::XmlContent(), DeviceId, NetType));
-    test::WriteBytes(protocolPath(), ProtocolBytes());
+    test::WriteBytes(
+        protocolPath(),
+        test::ProtocolFile(test::XmlContent().Element(L"Constraints", ParameterConstraints()), NetType));
 }
 
 std::wstring PlantStore::deviceName(std::size_t number)
@@ -75,6 +82,11 @@ std::wstring PlantStore::devicePath(std::size_t number) const
 std::wstring PlantStore::protocolPath() const
 {
     return m_roots.protocol(NetType);
+}
+
+std::wstring PlantStore::protocolPath(const std::wstring& name) const
+{
+    return m_roots.protocol(name);
 }
 
 } // namespace norvepa::bench

@@ -32,23 +32,55 @@ template <typename Body>
     return passed.count();
 }
 
+inline constexpr std::size_t Rounds = 11;
+
 template <typename Body>
-[[nodiscard]] double MedianNanoseconds(const Body& body)
+[[nodiscard]] std::uint64_t RunsOfARound(const Body& body)
 {
     constexpr double RoundNanoseconds = 20e6;
-    constexpr std::size_t Rounds = 11;
 
     std::uint64_t runs = 1;
     while (NanosecondsOfRuns(body, runs) < RoundNanoseconds)
     {
         runs *= 2;
     }
+    return runs;
+}
 
+[[nodiscard]] inline double Median(std::array<double, Rounds> rounds)
+{
+    std::nth_element(rounds.begin(), rounds.begin() + Rounds / 2, rounds.end());
+    return rounds[Rounds / 2];
+}
+
+template <typename Body>
+[[nodiscard]] double MedianNanoseconds(const Body& body)
+{
+    const std::uint64_t runs = RunsOfARound(body);
     std::array<double, Rounds> rounds;
     std::generate(rounds.begin(), rounds.end(),
                   [&] { return NanosecondsOfRuns(body, runs) / static_cast<double>(runs); });
-    std::nth_element(rounds.begin(), rounds.begin() + Rounds / 2, rounds.end());
-    return rounds[Rounds / 2];
+    return Median(rounds);
+}
+
+// Of several bodies whose rounds take turns, so that all meet the same quiet moments: their ratios count.
+template <typename... Bodies>
+[[nodiscard]] std::array<double, sizeof...(Bodies)> MedianNanosecondsInTurns(const Bodies&... bodies)
+{
+    constexpr std::size_t count = sizeof...(Bodies);
+
+    const std::array<std::uint64_t, count> runs{RunsOfARound(bodies)...};
+    std::array<std::array<double, Rounds>, count> rounds;
+    for (std::size_t round = 0; round < Rounds; ++round)
+    {
+        std::size_t body = 0;
+        ((rounds[body][round] = NanosecondsOfRuns(bodies, runs[body]) / static_cast<double>(runs[body]),
+          ++body),
+         ...);
+    }
+    std::array<double, count> medians;
+    std::transform(rounds.begin(), rounds.end(), medians.begin(), &Median);
+    return medians;
 }
 
 } // namespace norvepa::bench

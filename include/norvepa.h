@@ -628,18 +628,21 @@ int32_t LogDeviceDelVmdIdBL(const wchar_t* LogDevice);
  *   Value      in  the speed, as a value of "baudrate"
  *
  * PGSP_OK                               changed, with all that follows
- * PGSP_ERR_INVALID_PARAMETERS           LogDevice or Value is null, or LogDevice is empty; for "L2" also for
- *                                       a speed that isn't a number
+ * PGSP_ERR_INVALID_PARAMETERS           LogDevice or Value is null; for "L2" also for a speed that isn't a
+ *                                       number
  * PGSP_PROFILE_NO_VALUE                 the speed was refused, or no profile belongs to it, or not all of its
- *                                       values could be written
- * PGSP_ERR_PARAM_NOT_FOUND              the log device has no "baudrate", for "L2" no "busparam"
+ *                                       values could be written; also without a program folder, and on a
+ *                                       thread without COM
+ * PGSP_ERR_PARAM_NOT_FOUND              the log device has no "baudrate", for "L2" no "busparam", or that has
+ *                                       256 characters or more; also without a data folder
  * PGSP_ERR_PARAMETER_DEFAULT_NOT_FOUND  there is no such log device, or it has no CP_TYPE
  * PGSP_ERR_FILE_NOT_FOUND, PGSP_ERR_CANT_LOAD_XML_FILE, PGSP_ERR_CANT_SET_VALUE, PGSP_ERR_BUFFER_TOO_SHORT
  *                                       for "L2": as LogDeviceSetValueBL
- * PGSP_ERR_FOLDER_NOT_FOUND             the data folder can't be found
+ * PGSP_ERR_FOLDER_NOT_FOUND             the data folder can't be found any more
  *
- * After a failure the speed is the old one again, if it could be read. Notifies "LogDevices", the log device,
- * for each value that has changed, but not for the speed of an "L2".
+ * After a failure the speed is the old one again; an "L2" that had none is left with an empty one. Notifies
+ * "LogDevices", the log device, for each value that has changed, but not for the speed of an "L2". Needs COM
+ * on the calling thread, but for an "L2" with the user's own profile.
  */
 int32_t LogDeviceSetBusparamsBL(const wchar_t* LogDevice, const wchar_t* Value);
 
@@ -657,7 +660,8 @@ int32_t LogDeviceSetBusparamsBL(const wchar_t* LogDevice, const wchar_t* Value);
  * PGSP_OK                      all values were written
  * PGSP_ERR_INVALID_PARAMETERS  an argument is null
  * PGSP_PROFILE_NO_VALUE        the log device has no such parameter, the protocol has nothing for its value,
- *                              or a value couldn't be written; those that could stay
+ *                              or a value couldn't be written; those that could stay. Also for every other
+ *                              parameter, and on a thread without COM
  * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
  *
  * Notifies "LogDevices", the log device, for each value that has changed.
@@ -666,11 +670,14 @@ int32_t PGSP_LogDeviceSetProfileRBL(const wchar_t* LogDevice, const wchar_t* Pro
                                     const wchar_t* Parameter);
 
 /*
- * Tells whether a protocol has a value of a parameter, with whatever belongs to it.
+ * Tells whether a protocol lists a value of a parameter, whether or not anything follows from it; or whether
+ * it has a section for a value of a parameter below that value. Case doesn't count, and of what is listed
+ * only what stands ahead of a "/".
  *
  *   Protocol   in  the protocol
  *   Parameter  in  the parameter; or parameter\value\subparameter for a parameter below a value, cut at its
- *                  first two backslashes. With one backslash the value is empty
+ *                  first two backslashes. With one backslash the value is empty, and the subparameter is
+ *                  looked for anywhere below the parameter
  *   Value      in  the value, of the subparameter if there is one
  *
  * PGSP_OK                      it has
@@ -686,8 +693,8 @@ int32_t PGSP_ProfileCollectionExistsBL(const wchar_t* Protocol, const wchar_t* P
  * Reads the description of a parameter's value from a protocol.
  *
  *   Profile      in      the protocol
- *   ParamValue   in      parameter\value, cut at its first backslash; without one it is the value of a
- *                        parameter without a name
+ *   ParamValue   in      parameter\value, cut at its first backslash; without one the first description
+ *                        anywhere below what has this name
  *   ParamDesc    out     buffer for the description; with a length of 0 it may be null
  *   dwParamDesc  in/out  its length in characters
  *
@@ -715,10 +722,10 @@ int32_t PGSP_GetParamDescBL(const wchar_t* Profile, const wchar_t* ParamValue, w
  *
  * PGSP_OK                      both are set; a parameter that neither of the two knows has no values
  * PGSP_ERR_INVALID_PARAMETERS  LogDevice or Parameter is null or empty, an output is null, or the length is 0
- * PGSP_ERR_BUFFER_TOO_SHORT    the values that fit are there, without a terminator behind the last, and
- *                              dwValues tells the characters written; how many are needed is not told
- * PGSP_ERR_PARAM_NOT_FOUND     there is no such log device, or it has no DeviceID, or where the protocol is
- *                              asked no CP_TYPE, or no "busparam" for an "L2"
+ * PGSP_ERR_BUFFER_TOO_SHORT    the values that fit are there, without the closing terminator, and dwValues
+ *                              tells the characters written; how many are needed is not told
+ * PGSP_ERR_PARAM_NOT_FOUND     there is no such log device or no data folder, or it has no DeviceID, or where
+ *                              the protocol is asked no CP_TYPE, or no "busparam" for an "L2"
  * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
  */
 int32_t PGSP_LogDeviceGetMostSpecializedEnumListBL(const wchar_t* LogDevice, const wchar_t* Parameter,
@@ -739,8 +746,8 @@ int32_t PGSP_LogDeviceGetMostSpecializedEnumListBL(const wchar_t* LogDevice, con
  * PGSP_ERR_BUFFER_TOO_SHORT    dwValues tells the characters needed, and the buffer's first 260 characters
  *                              are as they were; or only the last terminator has no room, and dwValues tells
  *                              what was written
- * PGSP_ERR_PARAM_NOT_FOUND     neither of the two lists any; or there is no such log device, or it has no
- *                              DeviceID, no CP_TYPE, or no "busparam" for an "L2"
+ * PGSP_ERR_PARAM_NOT_FOUND     neither of the two lists any; or there is no such log device or no data
+ *                              folder, or it has no DeviceID, no CP_TYPE, or no "busparam" for an "L2"
  * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
  */
 int32_t PGSP_LogDeviceGetAverageEnumListBL(const wchar_t* LogDevice, const wchar_t* Parameter,
@@ -779,13 +786,17 @@ int32_t LogDeviceGetAsicTypeBL(const wchar_t* LogDevice, wchar_t* AsicType, uint
  * PGSP_OK                               Value and dwValue are set
  * PGSP_ERR_INVALID_PARAMETERS           a name is null or empty, an output is null, or the length is 0
  * PGSP_ERR_BUFFER_TOO_SHORT             dwValue tells the length of the protocol's text. A text of the
- *                                       board's that doesn't fit is passed over
+ *                                       board's that doesn't fit is passed over. Also, with dwValue as it
+ *                                       was, for a name whose escaped form has 260 characters or more
  * PGSP_ERR_ACCESS_DENIED                the log device can't be read for lack of rights
  * PGSP_ERR_LOG_DEVICE_NOT_EXISTS        there is no such log device
  * PGSP_ERR_PARAM_DESC_NOT_FOUND         neither the board nor the protocol has it
  * PGSP_ERR_PARAMETER_DEFAULT_NOT_FOUND  the board doesn't have it, and the log device has no CP_TYPE
- * PGSP_ERR_CANT_LOAD_XML_FILE           the board doesn't have it, and there is no such protocol
+ * PGSP_ERR_CANT_LOAD_XML_FILE           the board doesn't have it, and there is no such protocol; for a
+ *                                       value that is PGSP_ERR_PARAM_DESC_NOT_FOUND
  * PGSP_ERR_FOLDER_NOT_FOUND             the data folder or the program folder can't be found
+ *
+ * Words are answered as PGSP_TemplateGetConstraintBL answers them.
  */
 int32_t LogDeviceGetParamDescBL(const wchar_t* LogDevice, const wchar_t* Parameter, const wchar_t* ParamDesc,
                                 wchar_t* Value, uint32_t* dwValue);
@@ -1205,17 +1216,21 @@ int32_t PGSP_TemplateGetResourceStringBL(const wchar_t* FolderName, const wchar_
 /* Files of the catalogue: boards, protocols and templates alike -----------------------------------------
  *
  * A folder word is "Boards", "Protocols" or "DefaultLogDevices" in any case, or the name of another folder
- * beside those. In the three a file is named as a person knows it or by its file's name with what that begins
- * with; in another folder, and where it is said, by its file's name alone. ".xml" may be left out.
+ * beside those. In the three a file is named as a person knows it, a board also with a leading "*", or by its
+ * file's name with the prefix that those begin with; the prefix is known anywhere in a name, in this case
+ * unless names are looked for in small letters. In another folder, and where it is said, a file is named by
+ * its file's name alone. ".xml" may be left out.
  */
 
 /*
  * Tells whether a file of the catalogue exists and may be used, or whether a template has a subdevice.
  *
  *   Folder    in  the folder word
- *   Template  in  the file's name, looked for in small letters; in "DefaultLogDevices", which has to be in
- *                 this case for it, also file\subdevices\sub with the whole name of the file
- *   flag      in  what is asked: 0 existence, 2 writing, 4 reading, 6 both; for a subdevice it plays no part
+ *   Template  in  the file's name; in the three folders it is looked for in small letters, but for a
+ *                 template's without its prefix. In "DefaultLogDevices", which has to be in this case for it,
+ *                 also file\subdevices\sub with the whole name of the file
+ *   flag      in  what is asked: 0 existence, 2 writing, 4 reading, 6 both; for a subdevice it isn't looked
+ *                 at, but has to be one of these
  *
  * PGSP_OK                      it does
  * PGSP_ERR_ACCESS_DENIED       it exists, the access isn't allowed
@@ -1233,8 +1248,8 @@ int32_t PGSP_TemplateExistBL(const wchar_t* Folder, const wchar_t* Template, int
  * Tells whether a file of the catalogue holds what a key names.
  *
  *   Folder    in  the folder word; in another folder every key is there, and no file is looked at
- *   Template  in  the file's name, looked for in small letters
- *   Key       in  a path such as "Constraints\baudrate"
+ *   Template  in  the file's name, looked for in small letters but for a template's without its prefix
+ *   Key       in  a path such as "Constraints\baudrate". Of a board two parts count, of a protocol four
  *   flag      in  not used
  *
  * PGSP_OK                      it does
@@ -1257,9 +1272,12 @@ int32_t PGSP_TemplateKeyExistsBL(const wchar_t* Folder, const wchar_t* Template,
  *   Value     out     buffer for the value
  *   dwValue   in/out  its length in characters
  *
+ * The list is that of the file as it was read first; see PGSP_BoardGetValueCollectionBL.
+ *
  * PGSP_OK                      Value and dwValue are set
- * PGSP_ERR_INVALID_PARAMETERS  Folder or Template is null or empty, or an output is null
- * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the value's length
+ * PGSP_ERR_INVALID_PARAMETERS  Folder or Template is null or empty, or Key or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the value's length; also, with dwValue as it was, for an escaped
+ *                              path of 260 characters or more
  * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one
  * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such file
  * PGSP_ERR_PARAM_NOT_FOUND     the file has no such list
@@ -1293,13 +1311,14 @@ int32_t PGSP_TemplateGetConstraintBL(const wchar_t* FolderName, const wchar_t* f
 /*
  * Sets a parameter in a file of the catalogue, of a section of log devices or boards; it has to be there.
  *
- *   Folder     in  the folder word
- *   fileName   in  the file's name
- *   Parameter  in  the parameter
- *   Value      in  the value, as the kind of its entry allows it
+ *   Folder     in  the folder word; null is like ""
+ *   fileName   in  the file's name; null is like "", and then nobody is notified
+ *   Parameter  in  the parameter. Unless the value is a number or a truth value, without blanks and without
+ *                  any of  []^!"$%&()=?'#+><*|;,  the section sign and the acute accent
+ *   Value      in  the value, without < and >; whether it suits the kind of its entry isn't looked at
  *
  * PGSP_OK                          set, or set already: a value that differs in case alone is the same
- * PGSP_ERR_INVALID_PARAMETERS      Parameter is null or empty, Value is null, or malformed for its type
+ * PGSP_ERR_INVALID_PARAMETERS      Parameter is null or empty, Value is null, or a character isn't allowed
  * PGSP_ERR_BUFFER_TOO_SHORT        the path has 260 characters or more
  * PGSP_ERR_FILE_NOT_FOUND          there is no such file
  * PGSP_ERR_CANT_LOAD_XML_FILE      the file is malformed or over 10,000,000 bytes
@@ -1350,10 +1369,13 @@ int32_t PGSP_DefDeviceGetEnumValueBL(const wchar_t* DefDevice, uint32_t index, w
  *   dwValue    in/out  its length in characters
  *   flag       in      the section of links: 0 UserInterface64, any other number UserInterface
  *
+ * Links are found only in a template whose name is also its file's name.
+ *
  * PGSP_OK                      Value and dwValue are set
  * PGSP_ERR_INVALID_PARAMETERS  DefDevice is null or empty, or an output is null
  * PGSP_ERR_BUFFER_TOO_SHORT    a link doesn't fit; dwValue tells its length
- * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such template
+ * PGSP_ERR_CANT_LOAD_XML_FILE  there is no such template; or it has no such value, and its name isn't its
+ *                              file's
  * PGSP_ERR_PARAM_NOT_FOUND     the template has no such value
  * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
  */
@@ -1364,7 +1386,8 @@ int32_t PGSP_DefDeviceGetValueBL(const wchar_t* DefDevice, const wchar_t* Parame
  * Reads one value of a template from a place that the caller names.
  *
  *   DefDevice      in      the template
- *   ParameterPath  in      the section; null or "" for an attribute of the root element
+ *   ParameterPath  in      the section, or section\section below it; null or "" for an attribute of the root
+ *                          element
  *   Parameter      in      the parameter, or the attribute; it has to be given
  *   Value          out     buffer for the value
  *   dwValue        in/out  its length in characters
@@ -1409,7 +1432,7 @@ int32_t PGSP_TemplateGetListBL(const wchar_t* FolderName, wchar_t* Templates, ui
  * PGSP_OK                      both are set
  * PGSP_ERR_INVALID_PARAMETERS  FolderName is null or empty, an output is null, or the length is 0
  * PGSP_ERR_BUFFER_TOO_SHORT    TemplateLen tells the name's length
- * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one
+ * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one, or there is no such folder
  * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
  */
 int32_t PGSP_TemplateGetEnumBL(const wchar_t* FolderName, uint32_t index, wchar_t* TemplateName,

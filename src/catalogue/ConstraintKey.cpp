@@ -16,9 +16,15 @@ std::wstring ConstraintKey(std::wstring_view parameter, std::wstring_view value)
 }
 
 std::wstring ConstraintKey(std::wstring_view parameter, std::wstring_view value,
+                           std::wstring_view subParameter)
+{
+    return JoinPath(ConstraintKey(parameter, value), subParameter);
+}
+
+std::wstring ConstraintKey(std::wstring_view parameter, std::wstring_view value,
                            std::wstring_view subParameter, std::wstring_view subValue)
 {
-    return JoinPath(JoinPath(ConstraintKey(parameter, value), subParameter), subValue);
+    return JoinPath(ConstraintKey(parameter, value, subParameter), subValue);
 }
 
 } // namespace norvepa

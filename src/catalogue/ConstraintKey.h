@@ -8,9 +8,12 @@
 namespace norvepa
 {
 
-// Of a parameter, of a value of it, and of a value of a parameter below that value.
+// Of a parameter, of a value of it, of a parameter below that value, and of a value of that one. An empty
+// part leaves no trace: the key is that of another place then.
 [[nodiscard]] std::wstring ConstraintKey(std::wstring_view parameter);
 [[nodiscard]] std::wstring ConstraintKey(std::wstring_view parameter, std::wstring_view value);
+[[nodiscard]] std::wstring ConstraintKey(std::wstring_view parameter, std::wstring_view value,
+                                         std::wstring_view subParameter);
 [[nodiscard]] std::wstring ConstraintKey(std::wstring_view parameter, std::wstring_view value,
                                          std::wstring_view subParameter, std::wstring_view subValue);
 

@@ -1,48 +1,15 @@
 #include "catalogue/CatalogueWalk.h"
+#include "catalogue/ProfileWalk.h"
 #include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
-#include "frame/Text.h"
 #include "meta/cMetaFiles.h"
 #include "store/BufferForms.h"
-#include "store/DomWalk.h"
 
 namespace norvepa
 {
 
 namespace
 {
-
-// The child that answers a question by index: counting from 0 in every section of the value, whatever the
-// children are, the first that `isWanted` at or behind the index. Empty when there is none.
-template <typename Predicate>
-Node ChildOfProfile(const Document& document, std::wstring_view parameter, std::wstring_view value,
-                    std::uint32_t index, const Predicate& isWanted)
-{
-    for (const Node& section : document.Elements())
-    {
-        if (!IsParamSectionOf(section, parameter))
-        {
-            continue;
-        }
-        for (const Node& profile : ValueSections(section, value))
-        {
-            std::uint32_t counter = 0;
-            for (const Node& child : profile.Children())
-            {
-                if (counter < index)
-                {
-                    ++counter;
-                    continue;
-                }
-                if (isWanted(child))
-                {
-                    return child;
-                }
-            }
-        }
-    }
-    return {};
-}
 
 // The child number `index` of those that have children.
 const cEpaBlElement* NthWithChildren(const cEpaBlElement& section, std::uint32_t index)
@@ -70,19 +37,7 @@ Result NorvXMLEnumProfileValue(const wchar_t* filePath, const wchar_t* parameter
     {
         return PGSP_ERR_INVALID_PARAMETERS;
     }
-    Document document;
-    if (const Result result = OpenDocument(CatalogueFile(filePath), document); result != PGSP_OK)
-    {
-        return result;
-    }
-    const Node entry = ChildOfProfile(document, TextOrEmpty(parameter), TextOrEmpty(value), index, &IsEntry);
-    if (!entry)
-    {
-        return PGSP_ERR_NO_MORE_ITEMS;
-    }
-    *name = ChildText(entry, L"Name");
-    *text = ChildText(entry, L"Value");
-    return PGSP_OK;
+    return ProfileWalk(filePath, TextOrEmpty(parameter), TextOrEmpty(value)).EntryAt(index, *name, *text);
 }
 
 Result NorvXMLEnumProfileValue(const wchar_t* filePath, const wchar_t* parameter, const wchar_t* value,
@@ -102,21 +57,8 @@ Result NorvXMLEnumSubProfile(const wchar_t* filePath, const wchar_t* parameter, 
     {
         return PGSP_ERR_INVALID_PARAMETERS;
     }
-    Document document;
-    if (const Result result = OpenDocument(CatalogueFile(filePath), document); result != PGSP_OK)
-    {
-        return result;
-    }
-    const auto isSection = [](const Node& child) { return child.IsNamed(L"ParamSection"); };
-    const Node section =
-        ChildOfProfile(document, TextOrEmpty(parameter), TextOrEmpty(value), index, isSection);
-    if (!section)
-    {
-        return PGSP_ERR_NO_MORE_ITEMS;
-    }
-    const Node param = section.Attribute(L"Param");
-    *subParameter = param ? param.Text().view() : std::wstring_view{};
-    return PGSP_OK;
+    return ProfileWalk(filePath, TextOrEmpty(parameter), TextOrEmpty(value))
+        .SubParameterAt(index, *subParameter);
 }
 
 Result NorvXMLEnumSubProfileValue(const wchar_t* filePath, const wchar_t* parameter, const wchar_t* value,

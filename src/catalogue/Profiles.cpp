@@ -2,7 +2,6 @@
 #include "catalogue/Collections.h"
 #include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
-#include "frame/StoreLocations.h"
 #include "meta/cMetaFiles.h"
 
 // Queries of the value collections below the constraints of a parsed file, and of what a value selects there.
@@ -69,7 +68,7 @@ Result NorvXMLEnumProfileBaudrate(const wchar_t* filePath, const wchar_t* profil
     {
         return PGSP_ERR_INVALID_PARAMETERS;
     }
-    const std::wstring key = JoinPath(ConstraintKey(BusProfileParameter, profile), L"baudrate");
+    const std::wstring key = ConstraintKey(BusProfileParameter, profile, L"baudrate");
     return EnumSectionNames(filePath, key, index, *item);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
-// The existence tests of log devices, log names and catalogue files: is the file there, and may it be used in a way.
+// The existence tests of log devices, log names and catalogue files: is the file there, and may it be read or
+// written.
 
 #include "frame/ExportFrame.h"
 

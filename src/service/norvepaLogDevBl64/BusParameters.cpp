@@ -35,7 +35,7 @@ Result ApplyProfileAgain(const wchar_t* logDevice)
 }
 
 // Memory that runs out behind the first write is a failure as any other until the old speed is back.
-Result WriteSpeedAndProfile(const std::wstring& file, const wchar_t* logDevice, const wchar_t* value) noexcept
+Result WriteSpeedAndProfile(const std::wstring& file, const wchar_t* logDevice, const wchar_t* value)
 {
     try
     {
@@ -61,8 +61,8 @@ Result ChangeSpeedOfL2(const std::wstring& file, const wchar_t* logDevice, const
     return AnswerOf(result);
 }
 
-// One of the bus parameters follows from another by a rule of its own. That it can't be set isn't told.
-void DeriveForMpi(const wchar_t* logDevice)
+// `ttr` follows from `highest_adr` by a rule of this protocol. That it can't be set isn't told.
+void DeriveTtrForMpi(const wchar_t* logDevice)
 {
     constexpr std::uint32_t margin = 8;
 
@@ -85,7 +85,7 @@ Result ChangeSpeed(const wchar_t* logDevice, const wchar_t* value)
     const Result result = AnswerOf(PGSP_LogDeviceEnumSetProfileBL(logDevice, PGSP_PARAM_BAUDRATE, value));
     if (result == PGSP_OK)
     {
-        DeriveForMpi(logDevice);
+        DeriveTtrForMpi(logDevice);
     }
     return result;
 }

@@ -72,8 +72,7 @@ int32_t LogDeviceGetAsicTypeBL(const wchar_t* LogDevice, wchar_t* AsicType, uint
             return frame.InvalidParameters();
         }
 
-        // Both failures are told without an exit trace. The board's word stands for every log device, whatever
-        // its own parameters are.
+        // Both failures are told without an exit trace. Parameters of the log device's own play no part.
         std::wstring deviceId;
         if (const Result result = PGSP_LogDeviceGetValue(LogDevice, L"DeviceID", &deviceId);
             result != PGSP_OK)

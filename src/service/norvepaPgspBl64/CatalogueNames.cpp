@@ -64,6 +64,11 @@ Result MakeTemplateNameEscaping(const wchar_t* name, std::wstring& made)
         made = name;
         return PGSP_OK;
     }
+    return MakeEscapedTemplateName(name, made);
+}
+
+Result MakeEscapedTemplateName(const wchar_t* name, std::wstring& made)
+{
     std::wstring escaped;
     const Result result = EscapePath(name, escaped);
     if (result == PGSP_OK)

@@ -1,6 +1,5 @@
 #include "service/norvepaPgspBl64/NameForms.h"
 
-#include "frame/FileNames.h"
 #include "frame/Text.h"
 #include "service/norvepaPgspBl64/norvepaPgspBl64.h"
 
@@ -81,13 +80,7 @@ Result TemplateEscapingLowered(const wchar_t* name, std::wstring& made)
         made = lowered;
         return PGSP_OK;
     }
-    std::wstring escaped;
-    const Result result = EscapePath(name, escaped);
-    if (result == PGSP_OK)
-    {
-        made = std::wstring(TemplatePrefix).append(escaped);
-    }
-    return result;
+    return MakeEscapedTemplateName(name, made);
 }
 
 } // namespace

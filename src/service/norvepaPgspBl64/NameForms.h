@@ -2,7 +2,7 @@
 
 // What the exports that are given a folder word make of the name of a file in that folder.
 //
-// No two exports agree in all three folders, on purpose. Where a form lowers a name, the prefix is looked for
+// The exports differ from folder to folder, on purpose. Where a form lowers a name, the prefix is looked for
 // in small letters, and the file's path is composed of the small letters; a prefix that is put in front keeps
 // its own.
 
@@ -32,8 +32,8 @@ extern const NameForms TemplateGetConstraintForms;
 extern const NameForms TemplateSetValueForms;
 extern const NameForms TemplateGetResourceStringForms;
 
-// The name by the form for a folder word, which is known without regard to case. In any other folder a name is
-// used as it comes.
+// The name by the form for a folder word, which is known without regard to case. In any other folder a name
+// is used as it comes.
 [[nodiscard]] Result MakeNameIn(const NameForms& forms, std::wstring_view folder, const wchar_t* name,
                                 std::wstring& made);
 

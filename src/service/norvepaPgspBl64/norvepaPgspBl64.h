@@ -35,10 +35,11 @@ inline constexpr std::wstring_view TemplatePrefix = L"Automation-OnlineAccess-LD
 // The file name of a protocol, of which nothing is dropped.
 [[nodiscard]] std::wstring MakeProtocolName(std::wstring_view protocol);
 
-// The file name of a template. The second form escapes a name that lacks the prefix, and answers the codes of
-// that; `made` is untouched then.
+// The file name of a template. The second form escapes a name that lacks the prefix, the third any name; they
+// answer the codes of that, and `made` is untouched then.
 [[nodiscard]] std::wstring MakeTemplateName(std::wstring_view name);
 [[nodiscard]] Result MakeTemplateNameEscaping(const wchar_t* name, std::wstring& made);
+[[nodiscard]] Result MakeEscapedTemplateName(const wchar_t* name, std::wstring& made);
 
 // The number of a bus profile that a caller may name by a word instead; any other text as it is.
 [[nodiscard]] std::wstring MapProfileWord(std::wstring_view profile);

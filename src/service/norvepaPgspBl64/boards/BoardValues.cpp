@@ -1,41 +1,17 @@
-#include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "norvepa.h"
+#include "service/norvepaPgspBl64/CatalogueValue.h"
 #include "service/norvepaPgspBl64/norvepaPgspBl64.h"
-#include "store/norvxml.h"
+
+#include <array>
 
 using namespace norvepa;
 
 namespace
 {
 
-// The three places of a board's value: each is asked with the caller's own capacity, and only when the one
-// ahead of it had no answer that fits. The last result is the answer.
-Result ReadBoardValue(const std::wstring& file, const wchar_t* parameter, wchar_t* value,
-                      std::uint32_t* length)
-{
-    const std::uint32_t capacity = *length;
-    Result result = NorvXMLElementGetAttribute(file.c_str(), parameter, value, length);
-    for (const wchar_t* const section : {L"Install", L"BoardAttributes"})
-    {
-        if (result == PGSP_OK)
-        {
-            return PGSP_OK;
-        }
-        *length = capacity;
-        result = NorvXMLGetValueBuffer(file.c_str(), section, parameter, value, length);
-    }
-    return result;
-}
-
-Result ReadBoardValueRaw(const ExportFrame& frame, const std::wstring& file, const wchar_t* path,
-                         const wchar_t* parameter, wchar_t* value, std::uint32_t* length)
-{
-    NORV_TRACE(frame, TraceInfo, "NorvXMLGetValueRaw");
-    std::wstring text;
-    const Result result = NorvXMLGetValueRaw(file.c_str(), path, parameter, &text);
-    return result == PGSP_OK ? CopyOut(text, value, length) : result;
-}
+// Where a board's value is looked for, behind its attributes.
+constexpr std::array<const wchar_t*, 2> BoardSections{L"Install", L"BoardAttributes"};
 
 } // namespace
 
@@ -57,7 +33,8 @@ int32_t PGSP_BoardGetValueBL(const wchar_t* DeviceID, const wchar_t* Parameter, 
 
         const std::wstring file = BoardFile(programFolder, MakeBoardNameTestFirst(DeviceID));
         const std::uint32_t capacity = *dwValue;
-        const Result result = ReadBoardValue(file, ParameterOrDefault(Parameter), Value, dwValue);
+        const Result result =
+            ReadFromPlaces(file, BoardSections, ParameterOrDefault(Parameter), Value, dwValue);
 
         NORV_TRACE(frame, TraceInfo, "Value = %s, dwValue = %d", TraceToAnsi(Value, capacity), *dwValue);
         return frame.Return(result);
@@ -84,8 +61,8 @@ int32_t PGSP_BoardGetValueRawBL(const wchar_t* DeviceID, const wchar_t* Paramete
         const wchar_t* const parameter = ParameterOrDefault(Parameter);
         const std::uint32_t capacity = *dwValue;
         const Result result = IsMissing(ParameterPath)
-                                  ? ReadBoardValue(file, parameter, Value, dwValue)
-                                  : ReadBoardValueRaw(frame, file, ParameterPath, parameter, Value, dwValue);
+                                  ? ReadFromPlaces(file, BoardSections, parameter, Value, dwValue)
+                                  : ReadFromPath(frame, file, ParameterPath, parameter, Value, dwValue);
 
         NORV_TRACE(frame, TraceInfo, "Value = %s, dwValue = %d", TraceToAnsi(Value, capacity), *dwValue);
         return frame.Return(result);

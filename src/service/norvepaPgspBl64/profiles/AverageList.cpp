@@ -34,12 +34,11 @@ std::wstring_view Compared(std::wstring_view value)
 }
 
 // What both lists hold, whole and in the order of the first; case counts.
-void KeepCommon(std::vector<std::wstring>& boards, const std::vector<std::wstring>& protocols)
+void KeepCommon(std::vector<std::wstring>& values, const std::vector<std::wstring>& others)
 {
-    std::erase_if(boards, [&](const std::wstring& ofBoard) {
-        return std::none_of(protocols.begin(), protocols.end(), [&](const std::wstring& ofProtocol) {
-            return Compared(ofBoard) == Compared(ofProtocol);
-        });
+    std::erase_if(values, [&](const std::wstring& value) {
+        return std::none_of(others.begin(), others.end(),
+                            [&](const std::wstring& other) { return Compared(value) == Compared(other); });
     });
 }
 
@@ -80,8 +79,9 @@ int32_t PGSP_LogDeviceGetAverageEnumListBL(const wchar_t* LogDevice, const wchar
         }
         std::wstring deviceId;
         std::wstring cpType;
-        if (PGSP_LogDeviceGetValue(LogDevice, L"DeviceID", &deviceId) != PGSP_OK ||
-            PGSP_LogDeviceGetValue(LogDevice, L"CP_TYPE", &cpType) != PGSP_OK)
+        const Result ofBoard = PGSP_LogDeviceGetValue(LogDevice, L"DeviceID", &deviceId);
+        const Result ofProtocol = PGSP_LogDeviceGetValue(LogDevice, L"CP_TYPE", &cpType);
+        if (ofBoard != PGSP_OK || ofProtocol != PGSP_OK)
         {
             NORV_TRACE(frame, TraceExit, "<< return. Argument DeviceID or CP_TYPE not found");
             return PGSP_ERR_PARAM_NOT_FOUND;
@@ -102,26 +102,26 @@ int32_t PGSP_LogDeviceGetAverageEnumListBL(const wchar_t* LogDevice, const wchar
             NORV_TRACE(frame, TraceExit, "<< return. Argument Busparam not found");
             return PGSP_ERR_PARAM_NOT_FOUND;
         }
-        const std::vector<std::wstring> ofProtocol = ReadList(ProtocolFile(programFolder, protocol), key);
+        const std::vector<std::wstring> others = ReadList(ProtocolFile(programFolder, protocol), key);
 
-        if (values.empty() && ofProtocol.empty())
+        if (values.empty() && others.empty())
         {
             NORV_TRACE(frame, TraceExit, "<< return. No Values found in %s and %s", "",
                        TraceToAnsi(board.c_str()));
             return PGSP_ERR_PARAM_NOT_FOUND;
         }
-        if (ofProtocol.empty())
+        if (others.empty())
         {
             NORV_TRACE(frame, TraceInfo, "No values found in %s", TraceToAnsi(protocol.c_str()));
         }
         else if (values.empty())
         {
             NORV_TRACE(frame, TraceInfo, "No values found in %s", TraceToAnsi(board.c_str()));
-            values = ofProtocol;
+            values = others;
         }
         else
         {
-            KeepCommon(values, ofProtocol);
+            KeepCommon(values, others);
         }
         return ReturnValues(frame, values, board, Values, dwValues);
     });

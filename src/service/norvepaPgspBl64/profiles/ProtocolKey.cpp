@@ -1,5 +1,4 @@
 #include "catalogue/ConstraintKey.h"
-#include "frame/StoreLocations.h"
 #include "frame/Text.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 #include "service/norvepaPgspBl64/profiles/profiles.h"
@@ -21,9 +20,8 @@ Result MakeProtocolKey(std::wstring_view protocol, const wchar_t* logDevice, con
     {
         return result;
     }
-    key = EqualNoCase(parameter, PGSP_PARAM_BAUDRATE)
-              ? JoinPath(ConstraintKey(PGSP_PARAM_PROFILES, profile), parameter)
-              : ConstraintKey(parameter);
+    key = EqualNoCase(parameter, PGSP_PARAM_BAUDRATE) ? ConstraintKey(PGSP_PARAM_PROFILES, profile, parameter)
+                                                      : ConstraintKey(parameter);
     return PGSP_OK;
 }
 

@@ -1,3 +1,4 @@
+#include "catalogue/ProfileWalk.h"
 #include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "frame/Text.h"
@@ -60,7 +61,7 @@ std::optional<Result> WritePairs(const wchar_t* logDevice, const Next& next)
     std::optional<Result> written;
     std::wstring name;
     std::wstring value;
-    for (std::uint32_t index = 0; next(index, &name, &value) == PGSP_OK; ++index)
+    for (std::uint32_t index = 0; next(index, name, value) == PGSP_OK; ++index)
     {
         const bool isWritten =
             AnswerOf(LogDeviceSetValueBL(logDevice, name.c_str(), value.c_str())) == PGSP_OK;
@@ -79,9 +80,9 @@ std::optional<Result> WriteDirectProfile(const ExportFrame& frame, const Choice&
         return std::nullopt;
     }
     NORV_TRACE(frame, TraceInfo, "while NorvXMLEnumProfileValue");
-    return WritePairs(choice.logDevice, [&](std::uint32_t index, std::wstring* name, std::wstring* value) {
-        return NorvXMLEnumProfileValue(choice.file.c_str(), choice.parameter, choice.value.c_str(), index,
-                                       name, value);
+    ProfileWalk walk(choice.file.c_str(), choice.parameter, choice.value);
+    return WritePairs(choice.logDevice, [&](std::uint32_t index, std::wstring& name, std::wstring& value) {
+        return walk.EntryAt(index, name, value);
     });
 }
 
@@ -89,14 +90,14 @@ std::optional<Result> WriteSubProfile(const ExportFrame& frame, const Choice& ch
                                       const std::wstring& subParameter, const std::wstring& subValue)
 {
     NORV_TRACE(frame, TraceInfo, "while NorvXMLEnumSubProfileValue");
-    return WritePairs(choice.logDevice, [&](std::uint32_t index, std::wstring* name, std::wstring* value) {
+    return WritePairs(choice.logDevice, [&](std::uint32_t index, std::wstring& name, std::wstring& value) {
         return NorvXMLEnumSubProfileValue(choice.file.c_str(), choice.parameter, choice.value.c_str(),
-                                          subParameter.c_str(), subValue.c_str(), index, name, value);
+                                          subParameter.c_str(), subValue.c_str(), index, &name, &value);
     });
 }
 
-// The first sub-parameter that has pairs is the last one looked at, and so is the first whose value in the log
-// device, or that it has none, the protocol doesn't know.
+// The first sub-parameter that has pairs is the last one looked at, and so is the first whose value in the
+// log device the protocol doesn't know. One without a value there has no pairs.
 std::optional<Result> WriteSubProfiles(const ExportFrame& frame, const Choice& choice)
 {
     NORV_TRACE(frame, TraceInfo, "sParam=PGSP_PARAM_PROFILES  sParamValue=PGSP_PARAM_PROFILES_USER");
@@ -105,11 +106,9 @@ std::optional<Result> WriteSubProfiles(const ExportFrame& frame, const Choice& c
         return std::nullopt;
     }
     NORV_TRACE(frame, TraceInfo, "while NorvXMLEnumSubProfile");
+    ProfileWalk walk(choice.file.c_str(), choice.parameter, choice.value);
     std::wstring subParameter;
-    for (std::uint32_t index = 0;
-         NorvXMLEnumSubProfile(choice.file.c_str(), choice.parameter, choice.value.c_str(), index,
-                               &subParameter) == PGSP_OK;
-         ++index)
+    for (std::uint32_t index = 0; walk.SubParameterAt(index, subParameter) == PGSP_OK; ++index)
     {
         std::wstring subValue;
         static_cast<void>(LogDeviceGetValue(choice.logDevice, subParameter.c_str(), &subValue));
@@ -221,8 +220,7 @@ Result PGSP_LogDeviceEnumSetProfileBL(const wchar_t* LogDevice, const wchar_t* P
         if (result != PGSP_OK)
         {
             static_cast<void>(LogDeviceSetValueBL(LogDevice, Parameter, oldValue->c_str()));
-            static_cast<void>(AnswerOf(result));
-            return ReturnNoValue(frame);
+            return result == OutOfMemory ? frame.Return(result) : ReturnNoValue(frame);
         }
         return frame.Return(PGSP_OK);
     })};

@@ -1,14 +1,20 @@
 #include "catalogue/norvxmlCatalogue.h"
 #include "frame/Arguments.h"
 #include "norvepa.h"
-#include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
+#include "service/norvepaPgspBl64/CatalogueValue.h"
 #include "service/norvepaPgspBl64/norvepaPgspBl64.h"
 #include "store/norvxml.h"
+
+#include <array>
 
 using namespace norvepa;
 
 namespace
 {
+
+// Where a template's value is looked for, behind its attributes.
+constexpr std::array<const wchar_t*, 5> TemplateSections{L"DeviceHeader", L"LocalSettings",
+                                                         L"NetworkSettings", L"Bindings", L"Ndi"};
 
 // A link that a parameter of a template stands for, as text.
 Result ReadLink(const std::wstring& file, const wchar_t* parameter, std::int32_t wide, wchar_t* value,
@@ -22,41 +28,16 @@ Result ReadLink(const std::wstring& file, const wchar_t* parameter, std::int32_t
     return result == PGSP_OK ? CopyOut(assembly + L"," + target, value, length) : result;
 }
 
-// Each place is asked with the caller's own capacity, and only when the one ahead of it had no answer that
-// fits. The last result is the answer.
-Result ReadTemplateValue(const std::wstring& file, const wchar_t* parameter, std::int32_t wide,
-                         wchar_t* value, std::uint32_t* length)
+Result ReadValueOrLink(const std::wstring& file, const wchar_t* parameter, std::int32_t wide, wchar_t* value,
+                       std::uint32_t* length)
 {
     const std::uint32_t capacity = *length;
-    Result result = NorvXMLElementGetAttribute(file.c_str(), parameter, value, length);
-    for (const wchar_t* const section : SearchedSections)
-    {
-        if (result == PGSP_OK)
-        {
-            return PGSP_OK;
-        }
-        *length = capacity;
-        result = NorvXMLGetValueBuffer(file.c_str(), section, parameter, value, length);
-    }
-    if (result == PGSP_OK)
+    if (ReadFromPlaces(file, TemplateSections, parameter, value, length) == PGSP_OK)
     {
         return PGSP_OK;
     }
     *length = capacity;
     return ReadLink(file, parameter, wide, value, length);
-}
-
-Result ReadTemplateValueRaw(const ExportFrame& frame, const std::wstring& file, const wchar_t* path,
-                            const wchar_t* parameter, wchar_t* value, std::uint32_t* length)
-{
-    if (IsMissing(path))
-    {
-        return NorvXMLElementGetAttribute(file.c_str(), parameter, value, length);
-    }
-    NORV_TRACE(frame, TraceInfo, "NorvXMLGetValueRaw");
-    std::wstring text;
-    const Result result = NorvXMLGetValueRaw(file.c_str(), path, parameter, &text);
-    return result == PGSP_OK ? CopyOut(text, value, length) : result;
 }
 
 } // namespace
@@ -105,7 +86,7 @@ int32_t PGSP_DefDeviceGetValueBL(const wchar_t* DefDevice, const wchar_t* Parame
         }
 
         const std::wstring file = TemplateFile(programFolder, MakeTemplateName(DefDevice));
-        return frame.Return(ReadTemplateValue(file, ParameterOrDefault(Parameter), flag, Value, dwValue));
+        return frame.Return(ReadValueOrLink(file, ParameterOrDefault(Parameter), flag, Value, dwValue));
     });
 }
 
@@ -126,6 +107,8 @@ int32_t PGSP_DefDeviceGetValueRawBL(const wchar_t* DefDevice, const wchar_t* Par
         }
 
         const std::wstring file = TemplateFile(programFolder, MakeTemplateName(DefDevice));
-        return frame.Return(ReadTemplateValueRaw(frame, file, ParameterPath, Parameter, Value, dwValue));
+        return frame.Return(IsMissing(ParameterPath)
+                                ? NorvXMLElementGetAttribute(file.c_str(), Parameter, Value, dwValue)
+                                : ReadFromPath(frame, file, ParameterPath, Parameter, Value, dwValue));
     });
 }

@@ -123,6 +123,7 @@ int32_t PGSP_TemplateGetEnumBL(const wchar_t* FolderName, uint32_t index, wchar_
 
         const std::wstring folder = CatalogueFolder(programFolder, FolderName);
         NORV_TRACE(frame, TraceInfo, "Enumerating templates from: %s", TraceToAnsi(folder.c_str()));
+        const std::uint32_t capacity = LengthOrZero(TemplateLen);
         if (const Result result = NorvXMLEnumFileName(folder.c_str(), index, TemplateName, TemplateLen);
             result != PGSP_OK)
         {
@@ -130,7 +131,7 @@ int32_t PGSP_TemplateGetEnumBL(const wchar_t* FolderName, uint32_t index, wchar_
         }
         // The index of the next one, unlike in the form without prefix.
         NORV_TRACE(frame, TraceExit, "<< return TemplateName = %s, TemplateLen = %d, index = %d",
-                   TraceToAnsi(TemplateName), *TemplateLen, index + 1);
+                   TraceToAnsi(TemplateName, capacity), *TemplateLen, index + 1);
         return PGSP_OK;
     });
 }

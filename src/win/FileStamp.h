@@ -1,0 +1,42 @@
+#pragma once
+
+// What tells whether a file still is what it was when it was read, without reading it again.
+//
+// Callers may rely on: equal stamps, of which the first is certain, are those of one content; a copy that
+// brings an old write time along has a new change time. Callers must: take the stamp ahead of the reading,
+// and read when in doubt.
+
+#include <windows.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace norvepa::win
+{
+
+class FileStamp
+{
+public:
+    // None when the file can't be opened for reading, also because somebody writes to it.
+    [[nodiscard]] static std::optional<FileStamp> Of(const std::wstring& file) noexcept;
+
+    // False for a file that was changed so lately that the clock may not tell another change from that one.
+    [[nodiscard]] bool IsCertain() const noexcept { return m_age >= Grain; }
+
+    [[nodiscard]] bool operator==(const FileStamp& other) const noexcept
+    {
+        return m_size == other.m_size && m_written == other.m_written && m_changed == other.m_changed;
+    }
+
+private:
+    // In 100 ns: two seconds, as coarse as the times of any file system are.
+    static constexpr std::int64_t Grain = 20'000'000;
+
+    std::int64_t m_size = 0;
+    std::int64_t m_written = 0;
+    std::int64_t m_changed = 0;
+    std::int64_t m_age = 0; // since the change, when the stamp was taken
+};
+
+} // namespace norvepa::win

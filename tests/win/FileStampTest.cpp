@@ -1,0 +1,129 @@
+#include "win/FileStamp.h"
+
+#include "support/OpenFile.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace norvepa::test
+{
+namespace
+{
+
+using win::FileStamp;
+
+class FileStamps : public testing::Test
+{
+protected:
+    FileStamps() { WriteBytes(file, "one"); }
+
+    // Until the clock has gone on: what is written then is written later.
+    static void WaitForTheClock()
+    {
+        FILETIME begin;
+        FILETIME now;
+        GetSystemTimePreciseAsFileTime(&begin);
+        do
+        {
+            Sleep(20);
+            GetSystemTimePreciseAsFileTime(&now);
+        } while (CompareFileTime(&now, &begin) <= 0);
+    }
+
+    TemporaryFolder folder;
+    const std::wstring file = folder / L"file.xml";
+};
+
+std::wstring ThisProgram()
+{
+    std::wstring path(MAX_PATH, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
+    return path;
+}
+
+void CopyWithTimes(const std::wstring& from, const std::wstring& to)
+{
+    if (!CopyFileW(from.c_str(), to.c_str(), FALSE))
+    {
+        throw std::runtime_error("not copied");
+    }
+}
+
+TEST_F(FileStamps, AreEqualForAFileThatIsLeftAlone)
+{
+    const auto before = FileStamp::Of(file);
+
+    EXPECT_TRUE(before);
+    EXPECT_EQ(FileStamp::Of(file) == before, true);
+}
+
+TEST_F(FileStamps, DifferForAnotherSize)
+{
+    const auto before = FileStamp::Of(file);
+
+    WriteBytes(file, "three");
+
+    EXPECT_EQ(FileStamp::Of(file) == before, false);
+}
+
+TEST_F(FileStamps, DifferForOtherBytesOfTheSameSizeOnceTheClockHasGoneOn)
+{
+    const auto before = FileStamp::Of(file);
+    WaitForTheClock();
+
+    WriteBytes(file, "two");
+
+    EXPECT_EQ(FileStamp::Of(file) == before, false);
+}
+
+TEST_F(FileStamps, DifferForACopyThatBringsItsWriteTimeAlong)
+{
+    const std::wstring other = folder / L"other.xml";
+    CopyWithTimes(file, other);
+    WaitForTheClock();
+    const auto before = FileStamp::Of(file);
+    WriteBytes(other, "two");
+    WaitForTheClock();
+
+    CopyWithTimes(other, file);
+
+    EXPECT_EQ(FileStamp::Of(file) == before, false);
+}
+
+TEST_F(FileStamps, AreNotCertainForAFileThatWasJustWritten)
+{
+    EXPECT_FALSE(FileStamp::Of(file)->IsCertain());
+}
+
+TEST_F(FileStamps, AreCertainForAFileThatWasWrittenLongAgo)
+{
+    EXPECT_TRUE(FileStamp::Of(ThisProgram())->IsCertain());
+}
+
+TEST_F(FileStamps, AreNoneForAFileThatIsNotThere)
+{
+    EXPECT_FALSE(FileStamp::Of(folder / L"missing.xml"));
+    EXPECT_FALSE(FileStamp::Of(folder.path()));
+}
+
+TEST_F(FileStamps, AreNoneForAFileThatSomebodyWrites)
+{
+    const HANDLE writer = CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                      nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    ASSERT_NE(writer, INVALID_HANDLE_VALUE);
+
+    EXPECT_FALSE(FileStamp::Of(file));
+
+    CloseHandle(writer);
+    EXPECT_TRUE(FileStamp::Of(file));
+}
+
+TEST_F(FileStamps, AreThereForAFileThatOthersRead)
+{
+    const OpenFile reader(file);
+
+    EXPECT_TRUE(FileStamp::Of(file));
+}
+
+} // namespace
+} // namespace norvepa::test
