@@ -793,7 +793,9 @@ int32_t LogDeviceGetAsicTypeBL(const wchar_t* LogDevice, wchar_t* AsicType, uint
  * PGSP_ERR_PARAM_DESC_NOT_FOUND         neither the board nor the protocol has it
  * PGSP_ERR_PARAMETER_DEFAULT_NOT_FOUND  the board doesn't have it, and the log device has no CP_TYPE
  * PGSP_ERR_CANT_LOAD_XML_FILE           the board doesn't have it, and there is no such protocol; for a
- *                                       value that is PGSP_ERR_PARAM_DESC_NOT_FOUND
+ *                                       value that is PGSP_ERR_PARAM_DESC_NOT_FOUND. Also for a subdevice of
+ *                                       a log device that can't be read
+ * PGSP_ERR_PARAM_NOT_FOUND              the log device has no such subdevice
  * PGSP_ERR_FOLDER_NOT_FOUND             the data folder or the program folder can't be found
  *
  * Words are answered as PGSP_TemplateGetConstraintBL answers them.
