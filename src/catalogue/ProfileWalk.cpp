@@ -107,13 +107,13 @@ Node ProfileWalk::ChildAt(std::uint32_t index, IsWanted isWanted)
 bool ProfileWalk::FindMore()
 {
     const std::size_t known = m_profiles.size();
-    for (; *m_next != std::default_sentinel && m_profiles.size() == known; ++*m_next)
+    for (; m_next != std::default_sentinel && m_profiles.size() == known; ++m_next)
     {
-        if (!IsParamSectionOf(**m_next, m_parameter))
+        if (!IsParamSectionOf(*m_next, m_parameter))
         {
             continue;
         }
-        for (Node& profile : ValueSections(**m_next, m_value))
+        for (Node& profile : ValueSections(*m_next, m_value))
         {
             m_profiles.push_back(std::move(profile));
         }

@@ -47,8 +47,8 @@ private:
     const std::wstring m_value;
     std::optional<win::FileStamp> m_stamp; // of the file that is loaded; none when that can't be told again
     Document m_document;
-    std::optional<ElementRange::Iterator> m_next; // the element that is looked at next
-    std::vector<Node> m_profiles;                 // the sections of the value ahead of it
+    ElementRange::Iterator m_next{Node()}; // the element that is looked at next
+    std::vector<Node> m_profiles;          // the sections of the value ahead of it
 };
 
 } // namespace norvepa
