@@ -78,6 +78,22 @@ INSTANTIATE_TEST_SUITE_P(
                {L"board", L"text", L"a", L"b", L"--language", L".."},
                "a language has two letters"},
         Misuse{"TemplateAlone", {L"template"}, "A subcommand is required"},
+        Misuse{"BusparamsWithoutSpeed", {L"device", L"busparams", L"a"}, "BAUD is required"},
+        Misuse{"ProfileOfNothing", {L"device", L"profile"}, "DEVICE is required"},
+        Misuse{"ChoicesForNothing", {L"device", L"choices", L"a"}, "PARAMETER is required"},
+        Misuse{"DescribeTooMuch", {L"device", L"describe", L"a", L"b", L"c", L"d"}, "not expected: d"},
+        Misuse{"TemplateSetWithoutValue", {L"template", L"set", L"a", L"b"}, "VALUE is required"},
+        Misuse{"TemplateGetOfBothSections",
+               {L"template", L"get", L"a", L"b", L"--section", L"Ndi", L"--32"},
+               "--section excludes --32"},
+        Misuse{"SettingsAlone", {L"settings"}, "A subcommand is required"},
+        Misuse{"SettingsSetWithoutValue", {L"settings", L"set", L"a"}, "VALUE is required"},
+        Misuse{"DataAlone", {L"data"}, "A subcommand is required"},
+        Misuse{"DataGetWithoutParameter", {L"data", L"get", L"a"}, "PARAMETER is required"},
+        Misuse{
+            "DataSetOfUnknownType", {L"data", L"set", L"a", L"b", L"c", L"--type", L"float"}, "float not in"},
+        Misuse{
+            "DataSetInAnotherFolder", {L"data", L"set", L"a", L"b", L"c", L"--folder", L"meta"}, "--folder"},
         Misuse{"WatchWithoutFolder", {L"watch"}, "FOLDER is required"},
         Misuse{"WatchOfUnknownFolder", {L"watch", L"Foo"}, "Foo not in"},
         Misuse{"WatchWithoutNumber", {L"watch", L"meta", L"--timeout", L"x"}, "--timeout"},
@@ -108,14 +124,23 @@ TEST(NorvctlHelp, NamesEveryVerb)
     const std::string nouns = OutputOfNorvctl({L"--help"});
     const std::string names = OutputOfNorvctl({L"name", L"--help"});
     const std::string devices = OutputOfNorvctl({L"device", L"--help"});
+    const std::string templates = OutputOfNorvctl({L"template", L"--help"});
+    const std::string settings = OutputOfNorvctl({L"settings", L"--help"});
+    const std::string data = OutputOfNorvctl({L"data", L"--help"});
     const std::string traces = OutputOfNorvctl({L"trace", L"--help"});
 
-    EXPECT_THAT(nouns, AllOf(HasSubstr("name"), HasSubstr("template"), HasSubstr("watch"), HasSubstr("trace"),
-                             HasSubstr("version")));
+    EXPECT_THAT(nouns,
+                AllOf(HasSubstr("name"), HasSubstr("template"), HasSubstr("settings"), HasSubstr("data"),
+                      HasSubstr("watch"), HasSubstr("trace"), HasSubstr("version")));
     EXPECT_THAT(names, AllOf(HasSubstr("list"), HasSubstr("show"), HasSubstr("create"), HasSubstr("delete"),
                              HasSubstr("get"), HasSubstr("set"), HasSubstr("unset")));
     EXPECT_THAT(devices, AllOf(HasSubstr("create"), HasSubstr("copy"), HasSubstr("delete"), HasSubstr("edit"),
-                               HasSubstr("ndi"), HasSubstr("text")));
+                               HasSubstr("ndi"), HasSubstr("text"), HasSubstr("profile"),
+                               HasSubstr("busparams"), HasSubstr("choices"), HasSubstr("describe")));
+    EXPECT_THAT(templates, AllOf(HasSubstr("list"), HasSubstr("show"), HasSubstr("get"), HasSubstr("set"),
+                                 HasSubstr("text")));
+    EXPECT_THAT(settings, AllOf(HasSubstr("get"), HasSubstr("set")));
+    EXPECT_THAT(data, AllOf(HasSubstr("list"), HasSubstr("get"), HasSubstr("set"), HasSubstr("unset")));
     EXPECT_THAT(traces, AllOf(HasSubstr("status"), HasSubstr("on"), HasSubstr("off")));
 }
 

@@ -72,6 +72,12 @@ protected:
         return folder / (L"data-root\\data\\LogDevices\\" + fileName + L".xml");
     }
 
+    // A file of the catalogue, by its folder and its own name, without extension.
+    [[nodiscard]] std::wstring CataloguePath(const std::wstring& fileName) const
+    {
+        return folder / (L"program-root\\meta\\" + fileName + L".xml");
+    }
+
     // The libraries that the links to texts name, German and English.
     void LayOutTexts() const { CopyTree(FromUtf8(NORV_SAMPLE_RESOURCES), folder / L"program-root\\bin"); }
 

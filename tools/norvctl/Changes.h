@@ -3,9 +3,11 @@
 // A value that is set, and whether that made a difference.
 
 #include "Reads.h"
+#include "ValueChanges.h"
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace norvctl
 {
@@ -22,5 +24,17 @@ void MakeChange(const std::wstring& folder, const std::wstring& file, const std:
 // The same for a change that may be announced step by step.
 void MakeChangeOfSteps(const std::wstring& folder, const std::wstring& file,
                        const std::function<void()>& change);
+
+struct ChangeOfValues
+{
+    int32_t result;
+    std::vector<ValueChange> changes; // there may be some whatever the result
+};
+
+// The same for a change of any number of values, also none, each of which is announced. `read` answers all of
+// them.
+[[nodiscard]] ChangeOfValues MakeChangeOfValues(const std::wstring& folder, const std::wstring& file,
+                                                const std::function<std::vector<NameAndValue>()>& read,
+                                                const std::function<int32_t()>& change);
 
 } // namespace norvctl

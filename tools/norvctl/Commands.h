@@ -16,7 +16,9 @@ void AddNameCommands(CLI::App& app, const Report& report);   // name list, show,
 void AddBoardCommands(CLI::App& app, const Report& report);  // board list, show, values, get
 void AddProtocolCommands(CLI::App& app,
                          const Report& report); // protocol list, show, profiles, baudrates, get
-void AddTemplateCommands(CLI::App& app, const Report& report); // template list
+void AddTemplateCommands(CLI::App& app, const Report& report); // template list, show, get, set
+void AddSettingsCommands(CLI::App& app, const Report& report); // settings get, set
+void AddDataCommands(CLI::App& app, const Report& report);     // data list, get, set, unset
 void AddWatchCommand(CLI::App& app, const Report& report);     // watch
 void AddTraceCommands(CLI::App& app, const Report& report);    // trace status, on, off
 void AddVersionCommand(CLI::App& app, const Report& report);   // version
@@ -25,6 +27,8 @@ void AddVersionCommand(CLI::App& app, const Report& report);   // version
 void AddDeviceLifeCommands(CLI::App& device, const Report& report); // device create, copy, delete
 void AddDeviceEditCommands(CLI::App& device, const Report& report); // device edit begin, list, apply, discard
 void AddNdiCommands(CLI::App& device, const Report& report);        // device ndi list, get, set, unset
+void AddDeviceProfileCommands(CLI::App& device, const Report& report);   // device profile, busparams
+void AddDeviceCatalogueCommands(CLI::App& device, const Report& report); // device choices, describe
 
 // TextCommands.cpp: the verb text of each of these nouns.
 void AddDeviceTextCommand(CLI::App& device, const Report& report);

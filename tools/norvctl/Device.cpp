@@ -1,5 +1,6 @@
 #include "Device.h"
 
+#include "Result.h"
 #include "Text.h"
 #include "norvepa.h"
 
@@ -27,6 +28,29 @@ std::wstring FileOfDevice(const std::string& device)
 bool IsDeviceThere(const std::string& device)
 {
     return LogDeviceExistBL(ToWide(device).c_str(), 0) == PGSP_OK;
+}
+
+void RequireDevice(const std::string& device)
+{
+    Require(LogDeviceExistBL(ToWide(device).c_str(), 0), device);
+}
+
+ReadResult ReadDevice(const std::string& device, const std::string& parameter)
+{
+    const std::wstring name = ToWide(device);
+    const std::wstring asked = ToWide(parameter);
+    return ReadText([&](wchar_t* value, uint32_t* length) {
+        return LogDeviceGetValueBL(name.c_str(), asked.c_str(), value, length);
+    });
+}
+
+std::vector<NameAndValue> ValuesOfDevice(const std::string& device)
+{
+    const std::wstring name = ToWide(device);
+    return EnumeratePairs(device, [&](uint32_t index, wchar_t* parameter, uint32_t* parameterLength,
+                                      wchar_t* value, uint32_t* valueLength) {
+        return LogDeviceGetEnumValueBL(name.c_str(), index, parameter, parameterLength, value, valueLength);
+    });
 }
 
 void AnswerDone(const Report& report, const char* what, const std::string& device,

@@ -2,10 +2,12 @@
 
 // What the verbs of log devices share.
 
+#include "Reads.h"
 #include "Report.h"
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace norvctl
 {
@@ -23,6 +25,15 @@ inline constexpr std::wstring_view TemporaryPrefix = L"PGSP_TEMP_LOG_DEVICE____"
 [[nodiscard]] std::wstring FileOfDevice(const std::string& device);
 
 [[nodiscard]] bool IsDeviceThere(const std::string& device);
+
+// Throws unless it is there and may be asked for.
+void RequireDevice(const std::string& device);
+
+// One value, or the default of its catalogue.
+[[nodiscard]] ReadResult ReadDevice(const std::string& device, const std::string& parameter);
+
+// All values, in the order of its file.
+[[nodiscard]] std::vector<NameAndValue> ValuesOfDevice(const std::string& device);
 
 // What has been done to a value of a log device.
 void AnswerDone(const Report& report, const char* what, const std::string& device,

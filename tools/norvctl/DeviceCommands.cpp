@@ -31,15 +31,6 @@ std::string SubjectOf(const Arguments& arguments)
     return DeviceSubject(arguments.device, arguments.parameter);
 }
 
-ReadResult Read(const std::string& device, const std::string& parameter)
-{
-    const std::wstring name = ToWide(device);
-    const std::wstring asked = ToWide(parameter);
-    return ReadText([&](wchar_t* value, uint32_t* length) {
-        return LogDeviceGetValueBL(name.c_str(), asked.c_str(), value, length);
-    });
-}
-
 // Of log devices that have a unit, those of a board come from the index of the library.
 std::vector<std::string> NamesOfBoard(const std::string& boardId)
 {
@@ -72,9 +63,9 @@ void List(const Report& report, const Arguments& arguments)
         arguments.boardId.empty() ? NamesOfType(arguments.type) : NamesOfBoard(arguments.boardId);
     for (const std::string& name : names)
     {
-        const std::string type = Read(name, "CP_TYPE").value;
-        const std::string board = Read(name, "DeviceID").value;
-        const std::string unit = Read(name, "Unit").value;
+        const std::string type = ReadDevice(name, "CP_TYPE").value;
+        const std::string board = ReadDevice(name, "DeviceID").value;
+        const std::string unit = ReadDevice(name, "Unit").value;
         lines.push_back(fmt::format("{:<28} {:<10} {:<12} {}", name, type, board, unit));
         document.push_back({{"name", name}, {"type", type}, {"deviceId", board}, {"unit", unit}});
     }
@@ -83,12 +74,7 @@ void List(const Report& report, const Arguments& arguments)
 
 void Show(const Report& report, const Arguments& arguments)
 {
-    const std::wstring name = ToWide(arguments.device);
-    const auto values = EnumeratePairs(arguments.device, [&](uint32_t index, wchar_t* parameter,
-                                                             uint32_t* parameterLength, wchar_t* value,
-                                                             uint32_t* valueLength) {
-        return LogDeviceGetEnumValueBL(name.c_str(), index, parameter, parameterLength, value, valueLength);
-    });
+    const auto values = ValuesOfDevice(arguments.device);
     report.Answer(AsLines(values), {{"device", arguments.device}, {"values", AsObject(values)}});
 }
 
@@ -98,7 +84,7 @@ void Get(const Report& report, const Arguments& arguments)
     const std::wstring section = ToWide(arguments.section);
     const std::wstring parameter = ToWide(arguments.parameter);
     const ReadResult read = arguments.section.empty()
-                                ? Read(arguments.device, arguments.parameter)
+                                ? ReadDevice(arguments.device, arguments.parameter)
                                 : ReadText([&](wchar_t* value, uint32_t* length) {
                                       return LogDeviceGetValueExBL(name.c_str(), section.c_str(),
                                                                    parameter.c_str(), value, length);
@@ -122,7 +108,7 @@ void Set(const Report& report, const Arguments& arguments)
 {
     const bool changed = MakesDifference(
         LogDevicesWord, FileOfDevice(arguments.device),
-        [&] { return Read(arguments.device, arguments.parameter); }, [&] { SetOrExplain(arguments); });
+        [&] { return ReadDevice(arguments.device, arguments.parameter); }, [&] { SetOrExplain(arguments); });
     AnswerDone(report, changed ? "set" : "unchanged", arguments.device, arguments.parameter);
 }
 
@@ -170,6 +156,8 @@ void AddDeviceCommands(CLI::App& app, const Report& report)
 
     AddDeviceLifeCommands(*device, report);
     AddDeviceEditCommands(*device, report);
+    AddDeviceProfileCommands(*device, report);
+    AddDeviceCatalogueCommands(*device, report);
     AddNdiCommands(*device, report);
     AddDeviceTextCommand(*device, report);
 }

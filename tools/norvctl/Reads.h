@@ -17,6 +17,8 @@ struct ReadResult
 {
     int32_t result;
     std::string value;
+
+    bool operator==(const ReadResult&) const = default;
 };
 
 struct NameAndValue

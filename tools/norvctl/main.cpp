@@ -26,6 +26,8 @@ int main() // NOLINT(bugprone-exception-escape) what CLI11 throws ahead of the p
     norvctl::AddBoardCommands(app, report);
     norvctl::AddProtocolCommands(app, report);
     norvctl::AddTemplateCommands(app, report);
+    norvctl::AddSettingsCommands(app, report);
+    norvctl::AddDataCommands(app, report);
     norvctl::AddWatchCommand(app, report);
     norvctl::AddTraceCommands(app, report);
     norvctl::AddVersionCommand(app, report);
