@@ -138,8 +138,8 @@ TEST_F(SetSubProfile, FindsNoValueWhereNoSubValueHasPairs)
     ExpectNothingWritten();
 }
 
-// An empty sub-value is no step on the way through the protocol: what is found is the sub-parameter itself, and
-// that has no pairs.
+// An empty sub-value is no step on the way through the protocol: the sub-parameter itself is found, and it has
+// no pairs.
 TEST_F(SetSubProfile, GoesOnBehindASubParameterThatTheDeviceLacks)
 {
     WriteProfile(SubParameter(L"redundancy", {{L"on", XmlContent().Int(L"slot", L"1")}})
