@@ -28,6 +28,15 @@ watch_changes() { # FOLDER COUNT
 }
 show_changes() {
     wait "$watcher"
+    print_changes
+}
+# The same for changes of one call: two that come together are told as one, so that the watch may give up
+# waiting for the last.
+show_changes_of_one_call() {
+    wait "$watcher" || grep -q changed "$watched"
+    print_changes
+}
+print_changes() {
     echo 'what the watch has printed:'
     cat "$watched"
     rm "$watched"
@@ -93,6 +102,35 @@ refused norvctl device set Kesselhaus watchdog 15
 [[ $(sha256sum <"$file") == "$before" ]]
 echo 'Kesselhaus.xml is byte for byte what it was'
 
+say 'What a log device may choose from, and what the catalogue says of it'
+run norvctl device describe 'Presse#3'
+run norvctl device choices 'Presse#3' l4_timeout
+run norvctl device choices 'Presse#3' l4_timeout --average
+run norvctl device describe 'Presse#3' slot_time
+run norvctl device describe 'Presse#3' 'baudrate\1500000'
+
+say 'Another baud rate is chosen, and what depends on it follows; a watch in another process is told of each value'
+show_bus_parameters() {
+    for parameter in baudrate slot_time max_tsdr setup_time; do
+        run norvctl device get 'Presse#3' "$parameter"
+    done
+}
+watch_changes LogDevices 3
+show_bus_parameters
+run norvctl device busparams 'Presse#3' 1500000
+show_bus_parameters
+show_changes_of_one_call
+
+say 'A baud rate that nothing is known to follow from is refused, and the old one put back'
+refused norvctl device busparams 'Presse#3' 500000
+run norvctl device get 'Presse#3' baudrate
+
+say 'Kesselhaus got its baud rate alone: its bus profile, applied anew, brings the rest'
+watch_changes LogDevices 4
+run norvctl device profile Kesselhaus
+run norvctl device profile Kesselhaus
+show_changes_of_one_call
+
 say 'A log name is linked to a log device, unless another thread holds its lock'
 refused norvctl name link Wartung Kesselhaus
 run norvctl name link Lagerhaus Kesselhaus
@@ -128,6 +166,12 @@ run norvctl device create Programmierplatz --from MPI-KQZA010
 refused norvctl device delete Programmierplatz
 run norvctl device delete Programmierplatz --force
 show_changes
+
+say 'What belongs to no log device: settings of the machine, and flat files of parameters'
+run norvctl settings get PlantName
+run norvctl settings set LastChangeDate 2024-09-15
+run norvctl data set Kesselhaus Dampfdruck '39,0 bar' --subfolder ParameterData
+run norvctl data list Kesselhaus --subfolder ParameterData
 
 say 'Tracing is switched off again; what the first calls have left'
 run norvctl trace off
