@@ -121,5 +121,34 @@ TEST_F(SetDirectProfile, HasNoSubProfiles)
     ExpectNothingWritten();
 }
 
+TEST_F(SetDirectProfile, HasTheListThatWasThereFirstAndThePairsOfNow)
+{
+    WriteProfile(XmlContent().Text(L"slot", L"100"));
+    ExpectWritten(XmlContent().Text(L"slot", L"100"));
+
+    const XmlContent unlisted =
+        XmlContent().Element(L"ValueCollection", XmlContent()
+                                                     .ParamSection(L"187500", XmlContent().Text(L"gap", L"2"))
+                                                     .ParamSection(L"3", XmlContent().Text(L"gap", L"2")));
+    store.WriteProtocol(
+        Catalogue().Parameter(L"baudrate", {}, unlisted).Parameter(L"busparam", {}, unlisted));
+    ExpectWritten(XmlContent().Text(L"gap", L"2"));
+}
+
+// Wherever such a section stands in the file: behind the pairs of the first come those that the next has more.
+TEST_F(SetDirectProfile, GoesOnInFurtherSectionsOfTheParameter)
+{
+    const XmlContent more = XmlContent().Text(L"a", L"1").Text(L"b", L"2").Text(L"c", L"3");
+    store.WriteProtocol(
+        Catalogue()
+            .Parameter(L"baudrate", {}, Profiles({{L"187500", XmlContent().Text(L"slot", L"100")}}))
+            .Parameter(L"busparam", {}, Profiles({{L"1", SubParameter(L"baudrate", {{L"187500", more}})}})));
+    WriteEntries(Chosen());
+
+    EXPECT_EQ(SetProfile(L"baudrate"), PGSP_OK);
+
+    ExpectEntries(Chosen(XmlContent().Text(L"slot", L"100").Text(L"b", L"2").Text(L"c", L"3")));
+}
+
 } // namespace
 } // namespace norvepa::test

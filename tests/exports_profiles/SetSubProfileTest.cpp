@@ -138,8 +138,8 @@ TEST_F(SetSubProfile, FindsNoValueWhereNoSubValueHasPairs)
     ExpectNothingWritten();
 }
 
-// An empty sub-value is no step on the way through the protocol: the sub-parameter itself is found, and it has
-// no pairs.
+// An empty sub-value is no step on the way through the protocol: the sub-parameter itself is found, without
+// pairs.
 TEST_F(SetSubProfile, GoesOnBehindASubParameterThatTheDeviceLacks)
 {
     WriteProfile(SubParameter(L"redundancy", {{L"on", XmlContent().Int(L"slot", L"1")}})
@@ -190,6 +190,19 @@ TEST_F(SetSubProfile, BelongsToEveryValueButTheUsersOwn)
     EXPECT_EQ(SetProfile(L"busparam"), PGSP_OK);
 
     ExpectEntries(entries(L"3").Text(L"gap", L"1"));
+}
+
+TEST_F(SetSubProfile, HasThePairsAndTheListThatWereThereFirstAndTheSubParametersOfNow)
+{
+    WriteProfile(Medium(XmlContent().Text(L"slot", L"1")).Raw(Rate(XmlContent().Text(L"gap", L"1")).utf8()));
+    ExpectWritten(XmlContent().Text(L"slot", L"1"));
+
+    store.WriteProtocol(Catalogue().Parameter(
+        L"busparam", {}, Profiles({{L"2"}, {L"1/Standard", Medium(XmlContent().Text(L"slot", L"2"))}})));
+    ExpectWritten(XmlContent().Text(L"slot", L"1"));
+
+    WriteProfile(Rate(XmlContent().Text(L"gap", L"2")));
+    ExpectWritten(XmlContent().Text(L"gap", L"1"));
 }
 
 } // namespace
