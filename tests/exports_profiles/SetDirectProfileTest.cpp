@@ -135,7 +135,7 @@ TEST_F(SetDirectProfile, HasTheListThatWasThereFirstAndThePairsOfNow)
     ExpectWritten(XmlContent().Text(L"gap", L"2"));
 }
 
-// Wherever such a section stands in the file: behind the pairs of the first come those that the next has more.
+// Wherever they stand in the file: behind the pairs of the first come those that the next has more.
 TEST_F(SetDirectProfile, GoesOnInFurtherSectionsOfTheParameter)
 {
     const XmlContent more = XmlContent().Text(L"a", L"1").Text(L"b", L"2").Text(L"c", L"3");
