@@ -1,7 +1,7 @@
 #pragma once
 
-// Names of catalogue files in the tables of tests: "{Prefix}X" is X behind a folder's prefix as its files have
-// it, "{prefix}x" behind that in small letters, "{PREFIX}X" in capitals.
+// Names of catalogue files in the tables of tests: "{Prefix}X" is X behind a folder's prefix as its files
+// have it, "{prefix}x" behind that in small letters, "{PREFIX}X" in capitals.
 
 #include <string>
 #include <string_view>
