@@ -1,4 +1,4 @@
-#include "norvctl/SampleChange.h"
+#include "SampleChange.h"
 #include "support/Norvctl.h"
 
 #include <nlohmann/json.hpp>
