@@ -37,7 +37,37 @@ const std::vector<Question>& Changes()
          [](Outputs&) { return PGSP_LogDeviceDelNdiBL(L"Presse", L"PropSheet", Links); }},
         {"PGSP_LogDeviceDelNdiBLBesideTheLinks",
          [](Outputs&) { return PGSP_LogDeviceDelNdiBL(L"Presse", L"Titel", Links); }},
+        {"PGSP_TemplateSetValueBL",
+         [](Outputs&) { return PGSP_TemplateSetValueBL(L"Boards", L"AFK110", L"Treiber", L"afk111x"); }},
+        {"SetValueInPGSP_BL", [](Outputs&) { return SetValueInPGSP_BL(L"Sprache", L"en"); }},
+        {"SetValueInPGSP_BLOfANewName", [](Outputs&) { return SetValueInPGSP_BL(L"Anlage", L"Nord"); }},
+        {"PGSP_SetParameterDataBL",
+         [](Outputs&) { return PGSP_SetParameterDataBL(L"Werte", L"Kessel", L"Druck", L"40 bar", nullptr); }},
+        {"PGSP_SetParameterDataBLOfANewName",
+         [](Outputs&) { return PGSP_SetParameterDataBL(L"Werte", L"Kessel", L"Soll", L"39", L"int"); }},
+        {"PGSP_DelParameterDataBL",
+         [](Outputs&) { return PGSP_DelParameterDataBL(L"Werte", L"Kessel", L"Stunden"); }},
+        {"LogDeviceDelVmdIdBL", [](Outputs&) { return LogDeviceDelVmdIdBL(L"PC internal"); }},
         {"LogDeviceDelBL", [](Outputs&) { return LogDeviceDelBL(L"Presse", 0); }},
+    };
+    return all;
+}
+
+const std::vector<Stepwise>& StepwiseChanges()
+{
+    static const std::vector<Stepwise> all{
+        {{"PGSP_LogDeviceSetProfileRBL",
+          [](Outputs&) { return PGSP_LogDeviceSetProfileRBL(L"Ofen", L"MPI", L"baudrate"); }},
+         L"Ofen"},
+        {{"PGSP_LogDeviceSetProfileRBLOfASubProfile",
+          [](Outputs&) { return PGSP_LogDeviceSetProfileRBL(L"PC internal", L"L2", L"busparam"); }},
+         L"PC internal"},
+        {{"LogDeviceSetBusparamsBL", [](Outputs&) { return LogDeviceSetBusparamsBL(L"Ofen", L"500000"); }},
+         L"Ofen"},
+        {{"LogDeviceSetBusparamsBLOfL2",
+          [](Outputs&) { return LogDeviceSetBusparamsBL(L"PC internal", L"500000"); }},
+         L"PC internal",
+         L"baudrate"},
     };
     return all;
 }

@@ -1,8 +1,8 @@
 #include "Damage.h"
 #include "Questions.h"
 #include "norvepa.h"
+#include "support/XmlMeaning.h"
 
-#include <array>
 #include <set>
 
 namespace norvepa::test
@@ -11,7 +11,9 @@ namespace
 {
 
 using testing::Contains;
+using testing::Not;
 using testing::Range;
+using testing::StartsWith;
 
 constexpr std::uint32_t DamagesOfATest = 40;
 
@@ -22,6 +24,7 @@ const std::set<std::int32_t> Codes{PGSP_OK,
                                    PGSP_ERR_NO_MORE_ITEMS,
                                    PGSP_ERR_LOG_DEVICE_NOT_EXISTS,
                                    PGSP_ERR_LOG_DEVICE_NOT_DELETABLE,
+                                   PGSP_ERR_PARAM_DESC_NOT_FOUND,
                                    PGSP_ERR_PARAMETER_DEFAULT_NOT_FOUND,
                                    PGSP_NOT_IN_LIST,
                                    PGSP_SET_VAL_LESS_THAN_MIN,
@@ -41,12 +44,32 @@ bool IsList(const Question& question)
     return std::string_view(question.name).ends_with("GetValueListBL");
 }
 
-void WriteUnlessThere(const std::wstring& path, const std::string& bytes)
+// The two temporary log devices are read as any other is.
+std::vector<std::wstring> AllNames()
 {
-    if (ReadBytes(path) != bytes)
+    std::vector<std::wstring> names;
+    for (const auto& [name, bytes] : Beginning())
     {
-        WriteBytes(path, bytes);
+        if (name.find(L"PGSP_TEMP") == std::wstring::npos)
+        {
+            names.push_back(name);
+        }
     }
+    return names;
+}
+
+// Of the files that changes of bus parameters are made in, or by.
+std::vector<std::wstring> BusNames()
+{
+    std::vector<std::wstring> names{DeviceName(L"Ofen"), DeviceName(L"PC internal")};
+    for (const auto& [name, bytes] : Beginning())
+    {
+        if (name.find(L"Protocols") != std::wstring::npos || name.find(L"Boards") != std::wstring::npos)
+        {
+            names.push_back(name);
+        }
+    }
+    return names;
 }
 
 // In each test other damage, to one file after the other. What the library remembers of a file for good it
@@ -54,23 +77,12 @@ void WriteUnlessThere(const std::wstring& path, const std::string& bytes)
 class DamagedFiles : public SmallStore, public testing::WithParamInterface<std::uint32_t>
 {
 protected:
-    DamagedFiles()
-    {
-        for (const std::wstring& path : paths)
-        {
-            whole.push_back(ReadBytes(path));
-        }
-    }
-
     // One file of the store damaged, all others whole.
     void Damage(std::uint32_t number) const
     {
         WriteStore();
-        for (std::size_t i = 0; i < paths.size(); ++i)
-        {
-            const bool isHit = number % paths.size() == i;
-            WriteUnlessThere(paths[i], isHit ? Damaged(whole[i], number) : whole[i]);
-        }
+        const std::wstring& name = names[number % names.size()];
+        WriteBytes(PathOf(name), Damaged(Beginning().at(name), number));
         DropWhatIsKept();
     }
 
@@ -86,10 +98,7 @@ protected:
         }
     }
 
-    const std::array<std::wstring, 6> paths{roots.logDevice(L"Presse"), roots.logName(L"Pumpe"),
-                                            roots.logName(L"Warte"),    roots.board(L"AFK110"),
-                                            roots.protocol(L"MPI"),     roots.deviceTemplate(L"MPI-AFK110")};
-    std::vector<std::string> whole;
+    std::vector<std::wstring> names = AllNames();
 };
 
 void ExpectWithinBounds(const std::wstring& buffer, std::uint32_t length, std::int32_t result)
@@ -150,7 +159,38 @@ TEST_P(DamagedFiles, AreChangedOrLeftAsTheyAre)
     });
 }
 
+class DamagedBusFiles : public DamagedFiles
+{
+protected:
+    DamagedBusFiles() { names = BusNames(); }
+};
+
+// What is written value by value may end on the way: in a whole file, and in that of its log device alone.
+TEST_P(DamagedBusFiles, AreChangedValueByValueOrLeftAsTheyAre)
+{
+    ForEachDamage([this] {
+        Files before = StoredFiles();
+        for (const Stepwise& change : StepwiseChanges())
+        {
+            SCOPED_TRACE(change.question.name);
+            const Outcome outcome = Ask(change.question);
+            Files after = StoredFiles();
+
+            EXPECT_TRUE(Codes.contains(outcome.result) || outcome.result == PGSP_PROFILE_NO_VALUE)
+                << outcome.result;
+            const std::wstring name = DeviceName(change.logDevice);
+            if (after.at(name) != before.at(name))
+            {
+                EXPECT_THAT(MeaningOf(after.at(name)), Not(StartsWith("not well-formed")));
+                before.at(name) = after.at(name);
+            }
+            EXPECT_EQ(after, before);
+        }
+    });
+}
+
 INSTANTIATE_TEST_SUITE_P(Of, DamagedFiles, Range(0u, 6u));
+INSTANTIATE_TEST_SUITE_P(Of, DamagedBusFiles, Range(0u, 2u));
 
 } // namespace
 } // namespace norvepa::test

@@ -1,6 +1,5 @@
 #include "Questions.h"
 #include "norvepa.h"
-#include "support/WatchedEngine.h"
 
 namespace norvepa::test
 {
@@ -19,27 +18,15 @@ std::string NameOf(const testing::TestParamInfo<Question>& info)
 class EngineOutOfSmallStore : public SmallStore, public testing::WithParamInterface<Question>
 {
 protected:
-    // Asks again and again, with the DOM engine lacking memory for its first call, then for the second and so
-    // on, until there is none left. Each time the store is as in the beginning, and `look` is called with
-    // what came of it and whether there was a call to fail.
+    // Each time the store is as in the beginning.
     template <typename Look>
     void AskWithEachCallFailing(const Look& look) const
     {
-        bool hasFailed = true;
-        for (std::size_t nth = 1; hasFailed; ++nth)
-        {
-            SCOPED_TRACE("engine's call " + std::to_string(nth));
+        const auto prepare = [this] {
             WriteStore();
             DropWhatIsKept();
-            Outcome outcome;
-            {
-                WatchedEngine engine;
-                engine.FailAtCall(nth);
-                outcome = Ask(GetParam());
-                hasFailed = engine.hasFailed();
-            }
-            look(outcome, hasFailed);
-        }
+        };
+        AskWithEachEngineCallFailing(GetParam(), prepare, look);
     }
 };
 
@@ -49,8 +36,7 @@ TEST_P(AReadOfAnEngine, ThatLacksMemorySaysSoAndTouchesNothing)
 {
     const Outcome normal = Ask(GetParam());
     ASSERT_EQ(normal.result, PGSP_OK);
-    Outcome outOfMemory;
-    outOfMemory.result = OutOfMemoryCode;
+    const Outcome outOfMemory{OutOfMemoryCode, GetParam().afterAFailure};
 
     AskWithEachCallFailing([&](const Outcome& outcome, bool hasFailed) {
         EXPECT_EQ(outcome, hasFailed ? outOfMemory : normal);

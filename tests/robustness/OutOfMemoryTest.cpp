@@ -2,6 +2,8 @@
 #include "norvepa.h"
 #include "store/norvxml.h"
 
+#include <filesystem>
+
 namespace norvepa::test
 {
 namespace
@@ -52,8 +54,7 @@ TEST_P(ARead, ThatRunsOutOfMemorySaysSoAndTouchesNothing)
 {
     const Outcome normal = Ask(question());
     ASSERT_EQ(normal.result, PGSP_OK);
-    Outcome outOfMemory;
-    outOfMemory.result = OutOfMemoryCode;
+    const Outcome outOfMemory{OutOfMemoryCode, question().afterAFailure};
 
     AskWithEachAllocationFailing(question(), shortage(), Prepare, [&](const Outcome& outcome) {
         EXPECT_THAT(outcome, AnyOf(Eq(outOfMemory), Eq(normal)));
@@ -139,7 +140,7 @@ TEST_P(OutOfMemory, TellsTheNameOfATemporaryDeviceOrMakesNone)
              return LogDeviceCreateTempFromDefBL(L"MPI-AFK110", o.first.data(), &o.firstLength);
          }}};
     const Files before = StoredFiles();
-    const std::wstring made = L"LogDevices\\PGSP_TEMP_LOG_DEVICE____000.xml";
+    const std::wstring made = DeviceName(L"PGSP_TEMP_LOG_DEVICE____000");
     const auto prepare = [&] { WriteStore(); };
 
     for (const Question& make : makers)
@@ -161,6 +162,29 @@ TEST_P(OutOfMemory, TellsTheNameOfATemporaryDeviceOrMakesNone)
             EXPECT_EQ(after, before);
         });
     }
+}
+
+// The file is made first and the value set behind that.
+TEST_P(OutOfMemory, LeavesNoSettingsOrWholeOnes)
+{
+    const Question setFirst{"", [](Outputs&) { return SetValueInPGSP_BL(L"Sprache", L"en"); }};
+    const auto prepare = [&] { std::filesystem::remove(PathOf(SettingsName)); };
+    prepare();
+    const Files without = StoredFiles();
+    ASSERT_EQ(NorvXMLCreateFile((roots.data() + L"\\data\\PGSP").c_str(), L"pgsp"), PGSP_OK);
+    const Files created = StoredFiles();
+    ASSERT_EQ(Ask(setFirst).result, PGSP_OK);
+    const Files after = StoredFiles();
+
+    AskWithEachAllocationFailing(setFirst, GetParam(), prepare, [&](const Outcome& outcome) {
+        if (outcome.result == PGSP_OK)
+        {
+            EXPECT_EQ(StoredFiles(), after);
+            return;
+        }
+        EXPECT_EQ(outcome.result, OutOfMemoryCode);
+        EXPECT_THAT(StoredFiles(), AnyOf(without, created));
+    });
 }
 
 INSTANTIATE_TEST_SUITE_P(OfBothKinds, OutOfMemory, Values(Shortage::Passing, Shortage::Lasting));

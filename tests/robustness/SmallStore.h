@@ -3,6 +3,7 @@
 // A small store, every export asked one question about it, and what came of that: what was answered, and how
 // the store's files are afterwards.
 
+#include "Beginning.h"
 #include "FailingNew.h"
 #include "support/DeviceStore.h"
 #include "support/NamedEvent.h"
@@ -11,7 +12,6 @@
 #include <cstdint>
 #include <functional>
 #include <gmock/gmock.h>
-#include <map>
 #include <ostream>
 #include <string>
 
@@ -47,11 +47,10 @@ struct Question
 {
     const char* name;
     std::function<std::int32_t(Outputs&)> ask;
+    Outputs afterAFailure = {};
 };
 
 void PrintTo(const Question& question, std::ostream* out);
-
-using Files = std::map<std::wstring, std::string>; // by name, below the data folder
 
 class SmallStore : public testing::Test
 {
@@ -64,6 +63,9 @@ protected:
 
     [[nodiscard]] Files StoredFiles() const;
 
+    // Of a file by its name there.
+    [[nodiscard]] std::wstring PathOf(const std::wstring& name) const;
+
     // Of what the library has read and keeps, all that it ever lets go of.
     static void DropWhatIsKept();
 
@@ -74,6 +76,11 @@ protected:
     static void AskWithEachAllocationFailing(const Question& question, Shortage shortage,
                                              const std::function<void()>& prepare,
                                              const std::function<void(const Outcome&)>& look);
+
+    // The same with the DOM engine lacking memory for its first call, then for the second and so on. `look` is
+    // also told whether there was a call to fail.
+    static void AskWithEachEngineCallFailing(const Question& question, const std::function<void()>& prepare,
+                                             const std::function<void(const Outcome&, bool)>& look);
 
     StoreRoots roots;
     const DeviceStore store{roots};
