@@ -695,12 +695,11 @@ int32_t PGSP_ProfileCollectionExistsBL(const wchar_t* Protocol, const wchar_t* P
  *   Profile      in      the protocol
  *   ParamValue   in      parameter\value, cut at its first backslash; without one the first description
  *                        anywhere below what has this name
- *   ParamDesc    out     buffer for the description; with a length of 0 it may be null
+ *   ParamDesc    out     buffer for the description; may be null to ask for its length, with a length of 0
  *   dwParamDesc  in/out  its length in characters
  *
- * PGSP_OK                      both are set
- * PGSP_ERR_INVALID_PARAMETERS  Profile or ParamValue is null or empty, dwParamDesc is null, or there is no
- *                              buffer for a description that dwParamDesc has room for
+ * PGSP_OK                      both are set; but nothing is for a null buffer that is said to have room
+ * PGSP_ERR_INVALID_PARAMETERS  Profile or ParamValue is null or empty, or dwParamDesc is null
  * PGSP_ERR_BUFFER_TOO_SHORT    dwParamDesc tells the description's length
  * PGSP_ERR_PARAM_NOT_FOUND     there is none, or no such protocol
  * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found
@@ -1180,8 +1179,8 @@ int32_t PGSP_ProtocolGetValueRawBL(const wchar_t* CPType, const wchar_t* Paramet
  *   flag       in      the section of links
  *
  * PGSP_OK                      Value and dwValue are set
- * PGSP_ERR_INVALID_PARAMETERS  there is a text, and an output is null; but a null Value with a length of 0
- *                              asks for the text's length
+ * PGSP_ERR_INVALID_PARAMETERS  there is a text, and dwValue is null. A null Value with a length of 0 asks for
+ *                              the text's length; with room it takes nothing, and the result is PGSP_OK
  * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the text's length; also, with dwValue as it was, for an escaped
  *                              path of 260 characters or more
  * PGSP_ERR_CANT_LOAD_DLL       neither library can be loaded, or the library's name holds a backslash
@@ -1490,7 +1489,8 @@ int32_t PGSP_GetLogDeviceListExBL(const wchar_t* EntryName, const wchar_t* Entry
 /* Settings: values of this machine that belong to no log device ---------------------------------------- */
 
 /*
- * Reads one of the machine's settings.
+ * Reads one of the machine's settings: what SetValueInPGSP_BL has set, or else what updates have left, or
+ * else one of the times that are kept apart.
  *
  *   Parameter  in      the setting
  *   Value      out     buffer for the value
@@ -1498,9 +1498,10 @@ int32_t PGSP_GetLogDeviceListExBL(const wchar_t* EntryName, const wchar_t* Entry
  *
  * PGSP_OK                      Value and dwValue are set
  * PGSP_ERR_INVALID_PARAMETERS  Parameter is null or empty, or an output is null
- * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the value's length
- * PGSP_ERR_CANT_LOAD_XML_FILE  nothing was ever set, or the file can't be read
- * PGSP_ERR_PARAM_NOT_FOUND     there is no such setting
+ * PGSP_ERR_BUFFER_TOO_SHORT    dwValue tells the value's length; also, with dwValue as it was, for a path of
+ *                              260 characters or more
+ * PGSP_ERR_CANT_LOAD_XML_FILE  nothing was ever set, or the file can't be opened
+ * PGSP_ERR_PARAM_NOT_FOUND     there is no such setting, or the file isn't well-formed up to it
  * PGSP_ERR_FOLDER_NOT_FOUND    the data folder can't be found
  */
 int32_t GetValueInPGSP_BL(const wchar_t* Parameter, wchar_t* Value, uint32_t* dwValue);
@@ -1513,13 +1514,18 @@ int32_t GetValueInPGSP_BL(const wchar_t* Parameter, wchar_t* Value, uint32_t* dw
  *                  case, are kept apart from all others
  *   Value      in  the value, without < and >
  *
- * PGSP_OK                          set, or set already: a value that differs in case alone is the same
- * PGSP_ERR_INVALID_PARAMETERS      Parameter is null or empty, Value is null, or a character isn't allowed
+ * PGSP_OK                          set, whether or not the file could be saved, or set already: a value that
+ *                                  differs in case alone is the same
+ * PGSP_ERR_INVALID_PARAMETERS      Parameter is null or empty, Value is null, or a character isn't allowed,
+ *                                  for which the file is made all the same
  * PGSP_ERR_BUFFER_TOO_SHORT        the path has 260 characters or more
  * PGSP_ERR_CANT_CREATE_FILE        the file can't be created or saved
- * PGSP_ERR_CANT_CREATE_XML_ENGINE  the document engine can't be created; an empty file may stay behind
- * PGSP_ERR_CANT_LOAD_XML_FILE      the file is malformed or over 10,000,000 bytes
- * PGSP_ERR_CANT_SET_VALUE          the file lacks the section, or XML can't hold the value
+ * PGSP_ERR_CANT_CREATE_XML_ENGINE  the document engine can't be created. The first setting needs COM on the
+ *                                  calling thread: without it an empty file stays behind, which nothing can
+ *                                  be set in
+ * PGSP_ERR_CANT_LOAD_XML_FILE      the file is malformed or over 10,000,000 bytes; a thread without COM then
+ *                                  stays initialised
+ * PGSP_ERR_CANT_SET_VALUE          the file lacks the section, or XML can't hold the name or the value
  * PGSP_ERR_FOLDER_NOT_FOUND        the data folder can't be found
  *
  * Notifies nobody.
@@ -1550,7 +1556,7 @@ int32_t SetValueInPGSP_BL(const wchar_t* Parameter, const wchar_t* Value);
  * PGSP_ERR_FILE_NOT_FOUND          there is no such file
  * PGSP_ERR_CANT_LOAD_XML_FILE      the file is malformed or over 10,000,000 bytes
  * PGSP_ERR_CANT_CREATE_XML_ENGINE  COM isn't initialised on this thread
- * PGSP_ERR_PARAM_NOT_FOUND         the file has no such parameter
+ * PGSP_ERR_PARAM_NOT_FOUND         the file has no such parameter, or it has no value
  * PGSP_ERR_FOLDER_NOT_FOUND        the program folder or the data folder can't be found
  */
 int32_t PGSP_GetParameterMetaDataBL(const wchar_t* Folder, const wchar_t* Subfolder, const wchar_t* File,
@@ -1563,18 +1569,18 @@ int32_t PGSP_GetParameterMetaDataBL(const wchar_t* Folder, const wchar_t* Subfol
  *   Subfolder  in      as above
  *   File       in      the file's name
  *   index      in      which one
- *   Parameter  out     buffer for the name; with a length of 0 it may be null
+ *   Parameter  out     buffer for the name; may be null, also to ask for its length with one of 0
  *   parLen     in/out  its length in characters
- *   Value      out     buffer for the value, which is written first; empty, one character, after a failure,
- *                      whatever valLen says. With a length of 0 it may be null
+ *   Value      out     buffer for the value, which is written first; may be null likewise. It is empty, one
+ *                      character, when the value isn't told, whatever valLen says
  *   valLen     in/out  its length in characters
  *
- * PGSP_OK                          all four are set
- * PGSP_ERR_INVALID_PARAMETERS      Folder or File is null or empty; or an output is null that is to be set: a
- *                                  null name leaves the value set
- * PGSP_ERR_BUFFER_TOO_SHORT        a buffer is too small and its length now tells; a value that doesn't fit
- *                                  leaves Parameter and parLen as they were; also for a path of 260
- *                                  characters or more
+ * PGSP_OK                          all four are set, but for a null buffer that is said to have room and its
+ *                                  length. A child that an entry lacks is empty
+ * PGSP_ERR_INVALID_PARAMETERS      Folder or File is null or empty, or a length is null that is to be set
+ * PGSP_ERR_BUFFER_TOO_SHORT        a buffer is too small and its length now tells. A value that doesn't fit
+ *                                  leaves Parameter and parLen as they were; when the name alone doesn't, the
+ *                                  value has been told. Also for a path of 260 characters or more
  * PGSP_ERR_PARAM_NOT_FOUND         index lies past the last one
  * PGSP_ERR_FILE_NOT_FOUND, PGSP_ERR_CANT_LOAD_XML_FILE, PGSP_ERR_CANT_CREATE_XML_ENGINE,
  * PGSP_ERR_FOLDER_NOT_FOUND        as above
@@ -1590,9 +1596,11 @@ int32_t PGSP_EnumParameterMetaDataBL(const wchar_t* Folder, const wchar_t* Subfo
  *   File       in  the file's name
  *   Parameter  in  the parameter; one that isn't there is made
  *   Value      in  the value
- *   Type       in  "int", "bool", or any other for a text, null too. Parameters of another type don't count
+ *   Type       in  "int", "bool" in any case, or any other for a text, null too. Parameters of another type
+ *                  don't count: the new one then stands behind them, and readers see the first
  *
- * PGSP_OK                          set, or set already: here a value in another case is another value
+ * PGSP_OK                          set, whether or not the file could be saved, or set already: here a value
+ *                                  in another case is another value
  * PGSP_ERR_INVALID_PARAMETERS      File or Parameter is null or empty, or Value is null
  * PGSP_ERR_BUFFER_TOO_SHORT        the path has 260 characters or more
  * PGSP_ERR_FILE_NOT_FOUND          there is no such file
@@ -1613,7 +1621,8 @@ int32_t PGSP_SetParameterDataBL(const wchar_t* Subfolder, const wchar_t* File, c
  *   File       in  the file's name
  *   Parameter  in  the parameter
  *
- * Results as PGSP_SetParameterDataBL; PGSP_ERR_CANT_SET_VALUE when there is no such parameter.
+ * Results as PGSP_SetParameterDataBL, but that there is no value to be refused; PGSP_ERR_CANT_SET_VALUE when
+ * there is no such parameter.
  *
  * Notifies nobody.
  */

@@ -81,6 +81,7 @@ Result ProfileWalk::Load()
     }
     m_stamp.reset();
     m_profiles.clear();
+    m_next = ElementRange::Iterator(Node());
     const Result result = OpenDocument(m_file, m_document);
     if (result == PGSP_OK)
     {

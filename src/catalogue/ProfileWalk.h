@@ -4,7 +4,8 @@
 // the parameters below it.
 //
 // Each question is answered by the file as it is now; it is loaded again only when it may have changed since,
-// so that a walk over a profile costs one load. Needs COM on its thread, which it must not leave.
+// so that a walk over a profile costs one load. Needs COM on its thread, which it must not leave; an
+// exception is the walk's end.
 
 #include "frame/Result.h"
 #include "win/FileStamp.h"

@@ -20,11 +20,12 @@ Result CopyOut(std::wstring_view text, wchar_t* buffer, std::uint32_t* length) n
 
 Result CopyOutUntested(std::wstring_view text, wchar_t* buffer, std::uint32_t* length) noexcept
 {
-    if (length == nullptr || (buffer == nullptr && *length > text.size()))
+    if (length == nullptr)
     {
         return PGSP_ERR_INVALID_PARAMETERS;
     }
-    return CopyOut(text, buffer, length);
+    const bool hasNowhereToGo = buffer == nullptr && *length > text.size();
+    return hasNowhereToGo ? PGSP_OK : CopyOut(text, buffer, length);
 }
 
 } // namespace norvepa

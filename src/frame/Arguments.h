@@ -41,8 +41,9 @@ inline constexpr wchar_t DefaultParameter[] = L"(default)";
 // PGSP_OK or PGSP_ERR_BUFFER_TOO_SHORT. Buffer and length must be there.
 [[nodiscard]] Result CopyOut(std::wstring_view text, wchar_t* buffer, std::uint32_t* length) noexcept;
 
-// The same where neither has been tested: a null buffer may ask for the length, and
-// PGSP_ERR_INVALID_PARAMETERS tells that there is no length, or no buffer for a text that fits.
+// The same where neither has been tested. A null buffer may ask for the length; when that has room there is
+// nowhere to copy to, which isn't told: PGSP_OK, and the length as it was. PGSP_ERR_INVALID_PARAMETERS for a
+// null length.
 [[nodiscard]] Result CopyOutUntested(std::wstring_view text, wchar_t* buffer, std::uint32_t* length) noexcept;
 
 } // namespace norvepa

@@ -2,6 +2,8 @@
 
 #include "win/Handle.h"
 
+#include <algorithm>
+
 namespace norvepa::win
 {
 
@@ -19,7 +21,8 @@ std::int64_t Now() noexcept
 
 std::optional<FileStamp> FileStamp::Of(const std::wstring& file) noexcept
 {
-    const Handle handle(CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+    constexpr DWORD everybody = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const Handle handle(CreateFileW(file.c_str(), GENERIC_READ, everybody, nullptr, OPEN_EXISTING,
                                     FILE_ATTRIBUTE_NORMAL, nullptr));
     FILE_BASIC_INFO times;
     FILE_STANDARD_INFO extent;
@@ -32,7 +35,7 @@ std::optional<FileStamp> FileStamp::Of(const std::wstring& file) noexcept
     stamp.m_size = extent.EndOfFile.QuadPart;
     stamp.m_written = times.LastWriteTime.QuadPart;
     stamp.m_changed = times.ChangeTime.QuadPart;
-    stamp.m_age = Now() - times.ChangeTime.QuadPart;
+    stamp.m_age = stamp.m_changed == 0 ? 0 : Now() - std::max(stamp.m_written, stamp.m_changed);
     return stamp;
 }
 

@@ -2,6 +2,7 @@
 
 #include "support/OpenFile.h"
 #include "support/TemporaryFolder.h"
+#include "win/Handle.h"
 
 #include <gtest/gtest.h>
 
@@ -106,23 +107,22 @@ TEST_F(FileStamps, AreNoneForAFileThatIsNotThere)
     EXPECT_FALSE(FileStamp::Of(folder.path()));
 }
 
-TEST_F(FileStamps, AreNoneForAFileThatSomebodyWrites)
+TEST_F(FileStamps, AreNoneForAFileThatSomebodyKeepsToHimself)
 {
-    const HANDLE writer = CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                      nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    ASSERT_NE(writer, INVALID_HANDLE_VALUE);
+    const OpenFile reader(file, 0);
 
     EXPECT_FALSE(FileStamp::Of(file));
-
-    CloseHandle(writer);
-    EXPECT_TRUE(FileStamp::Of(file));
 }
 
-TEST_F(FileStamps, AreThereForAFileThatOthersRead)
+TEST_F(FileStamps, AreThereForAFileThatOthersReadOrWrite)
 {
     const OpenFile reader(file);
+    const std::wstring written = folder / L"written.xml";
+    const win::Handle writer(CreateFileW(written.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
+                                         FILE_ATTRIBUTE_NORMAL, nullptr));
 
     EXPECT_TRUE(FileStamp::Of(file));
+    EXPECT_TRUE(FileStamp::Of(written));
 }
 
 } // namespace

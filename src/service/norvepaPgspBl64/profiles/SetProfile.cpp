@@ -52,32 +52,44 @@ bool HasCollection(const ExportFrame& frame, const Choice& choice)
            PGSP_OK;
 }
 
-// Writes the pairs that `next` answers by index, until it has no more. A pair that can't be written doesn't
-// keep back those behind it. PGSP_OK when all were written, PGSP_PROFILE_NO_VALUE when one wasn't; none when
-// there was no pair.
-template <typename Next>
-std::optional<Result> WritePairs(const wchar_t* logDevice, const Next& next)
+enum class Pairs
 {
-    std::optional<Result> written;
+    None, // there was nothing to write
+    Written,
+    NotAllWritten
+};
+
+// Writes the pairs that `next` answers by index, until it has no more. A pair that can't be written doesn't
+// keep back those behind it.
+template <typename Next>
+Pairs WritePairs(const wchar_t* logDevice, const Next& next)
+{
+    Pairs pairs = Pairs::None;
     std::wstring name;
     std::wstring value;
     for (std::uint32_t index = 0; next(index, name, value) == PGSP_OK; ++index)
     {
-        const bool isWritten =
-            AnswerOf(LogDeviceSetValueBL(logDevice, name.c_str(), value.c_str())) == PGSP_OK;
-        written = isWritten ? written.value_or(PGSP_OK) : PGSP_PROFILE_NO_VALUE;
+        const Result result = AnswerOf(LogDeviceSetValueBL(logDevice, name.c_str(), value.c_str()));
+        if (result != PGSP_OK)
+        {
+            pairs = Pairs::NotAllWritten;
+        }
+        else if (pairs == Pairs::None)
+        {
+            pairs = Pairs::Written;
+        }
     }
-    return written;
+    return pairs;
 }
 
-std::optional<Result> WriteDirectProfile(const ExportFrame& frame, const Choice& choice)
+Pairs WriteDirectProfile(const ExportFrame& frame, const Choice& choice)
 {
     NORV_TRACE(frame, TraceInfo,
                "sParam=PGSP_PARAM_BAUDRATE or (sParam=PGSP_PARAM_PROFILES and "
                "sParamValue=PGSP_PARAM_PROFILES_USER)");
     if (!HasCollection(frame, choice))
     {
-        return std::nullopt;
+        return Pairs::None;
     }
     NORV_TRACE(frame, TraceInfo, "while NorvXMLEnumProfileValue");
     ProfileWalk walk(choice.file.c_str(), choice.parameter, choice.value);
@@ -86,8 +98,8 @@ std::optional<Result> WriteDirectProfile(const ExportFrame& frame, const Choice&
     });
 }
 
-std::optional<Result> WriteSubProfile(const ExportFrame& frame, const Choice& choice,
-                                      const std::wstring& subParameter, const std::wstring& subValue)
+Pairs WriteSubProfile(const ExportFrame& frame, const Choice& choice, const std::wstring& subParameter,
+                      const std::wstring& subValue)
 {
     NORV_TRACE(frame, TraceInfo, "while NorvXMLEnumSubProfileValue");
     return WritePairs(choice.logDevice, [&](std::uint32_t index, std::wstring& name, std::wstring& value) {
@@ -98,12 +110,12 @@ std::optional<Result> WriteSubProfile(const ExportFrame& frame, const Choice& ch
 
 // The first sub-parameter that has pairs is the last one looked at, and so is the first whose value in the
 // log device the protocol doesn't know. One without a value there has no pairs.
-std::optional<Result> WriteSubProfiles(const ExportFrame& frame, const Choice& choice)
+Pairs WriteSubProfiles(const ExportFrame& frame, const Choice& choice)
 {
     NORV_TRACE(frame, TraceInfo, "sParam=PGSP_PARAM_PROFILES  sParamValue=PGSP_PARAM_PROFILES_USER");
     if (!HasCollection(frame, choice))
     {
-        return std::nullopt;
+        return Pairs::None;
     }
     NORV_TRACE(frame, TraceInfo, "while NorvXMLEnumSubProfile");
     ProfileWalk walk(choice.file.c_str(), choice.parameter, choice.value);
@@ -115,17 +127,17 @@ std::optional<Result> WriteSubProfiles(const ExportFrame& frame, const Choice& c
         if (NorvXMLSubProfileCollectionExists(choice.file.c_str(), choice.parameter, choice.value.c_str(),
                                               subParameter.c_str(), subValue.c_str()) != PGSP_OK)
         {
-            return std::nullopt;
+            return Pairs::None;
         }
-        if (const auto written = WriteSubProfile(frame, choice, subParameter, subValue))
+        if (const Pairs pairs = WriteSubProfile(frame, choice, subParameter, subValue); pairs != Pairs::None)
         {
-            return written;
+            return pairs;
         }
     }
-    return std::nullopt;
+    return Pairs::None;
 }
 
-std::optional<Result> WriteProfile(const ExportFrame& frame, const Choice& choice)
+Pairs WriteProfile(const ExportFrame& frame, const Choice& choice)
 {
     switch (KindOf(choice))
     {
@@ -136,7 +148,7 @@ std::optional<Result> WriteProfile(const ExportFrame& frame, const Choice& choic
     case ProfileKind::None:
         break;
     }
-    return std::nullopt;
+    return Pairs::None;
 }
 
 Result ReturnNoValue(const ExportFrame& frame, TracePlace place = TracePlace::current())
@@ -183,7 +195,7 @@ int32_t PGSP_LogDeviceSetProfileRBL(const wchar_t* LogDevice, const wchar_t* Pro
         }
 
         choice.file = ProtocolFile(programFolder, MakeProtocolName(Profile));
-        return WriteProfile(frame, choice) == PGSP_OK ? frame.Ok() : ReturnNoValue(frame);
+        return WriteProfile(frame, choice) == Pairs::Written ? frame.Ok() : ReturnNoValue(frame);
     });
 }
 

@@ -13,7 +13,7 @@ namespace
 {
 
 // A buffer is seen to be empty whatever becomes of the call, also when its capacity is 0.
-void Empty(wchar_t* buffer)
+void ClearFirst(wchar_t* buffer)
 {
     if (buffer != nullptr)
     {
@@ -39,7 +39,7 @@ int32_t PGSP_GetParameterMetaDataBL(const wchar_t* Folder, const wchar_t* Subfol
                                     const wchar_t* Parameter, wchar_t* Value, uint32_t* dwValue)
 {
     return RunExport("PGSP_GetParameterMetaDataBL: ", [&](const ExportFrame& frame) -> Result {
-        Empty(Value);
+        ClearFirst(Value);
         NORV_TRACE(frame, TraceEntry, ">> Folder = %s, Subfolder = %s, File = %s, Parameter = %s",
                    TraceToAnsi(Folder), TraceToAnsi(Subfolder), TraceToAnsi(File), TraceToAnsi(Parameter));
         if (IsMissing(Folder) || IsMissing(File) || IsMissing(Parameter) || Value == nullptr ||
@@ -75,7 +75,7 @@ int32_t PGSP_EnumParameterMetaDataBL(const wchar_t* Folder, const wchar_t* Subfo
                                      uint32_t* valLen)
 {
     return RunExport("PGSP_EnumParameterMetaDataBL: ", [&](const ExportFrame& frame) -> Result {
-        Empty(Value);
+        ClearFirst(Value);
         NORV_TRACE(frame, TraceEntry, ">> Folder = %s, Subfolder = %s, File = %s", TraceToAnsi(Folder),
                    TraceToAnsi(Subfolder), TraceToAnsi(File));
         if (IsMissing(Folder) || IsMissing(File))

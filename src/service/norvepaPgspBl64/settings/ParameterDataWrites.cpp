@@ -5,6 +5,7 @@
 #include "store/norvxml.h"
 
 #include <string>
+#include <string_view>
 
 using namespace norvepa;
 

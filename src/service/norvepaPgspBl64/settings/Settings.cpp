@@ -31,7 +31,7 @@ const wchar_t* SectionToWrite(std::wstring_view parameter)
 
 std::wstring SettingsFile(std::wstring_view dataFolder)
 {
-    return MakeStoreFolder(dataFolder, L"data", L"PGSP");
+    return JoinPath(JoinPath(dataFolder, L"data"), L"PGSP");
 }
 
 // A value that doesn't fit has been found: the sections behind it aren't asked.
