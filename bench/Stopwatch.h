@@ -32,7 +32,7 @@ template <typename Body>
     return passed.count();
 }
 
-inline constexpr std::size_t Rounds = 11;
+inline constexpr std::size_t MedianRounds = 11;
 
 template <typename Body>
 [[nodiscard]] std::uint64_t RunsOfARound(const Body& body)
@@ -47,17 +47,17 @@ template <typename Body>
     return runs;
 }
 
-[[nodiscard]] inline double Median(std::array<double, Rounds> rounds)
+[[nodiscard]] inline double Median(std::array<double, MedianRounds> rounds)
 {
-    std::nth_element(rounds.begin(), rounds.begin() + Rounds / 2, rounds.end());
-    return rounds[Rounds / 2];
+    std::nth_element(rounds.begin(), rounds.begin() + MedianRounds / 2, rounds.end());
+    return rounds[MedianRounds / 2];
 }
 
 template <typename Body>
 [[nodiscard]] double MedianNanoseconds(const Body& body)
 {
     const std::uint64_t runs = RunsOfARound(body);
-    std::array<double, Rounds> rounds;
+    std::array<double, MedianRounds> rounds;
     std::generate(rounds.begin(), rounds.end(),
                   [&] { return NanosecondsOfRuns(body, runs) / static_cast<double>(runs); });
     return Median(rounds);
@@ -70,8 +70,8 @@ template <typename... Bodies>
     constexpr std::size_t count = sizeof...(Bodies);
 
     const std::array<std::uint64_t, count> runs{RunsOfARound(bodies)...};
-    std::array<std::array<double, Rounds>, count> rounds;
-    for (std::size_t round = 0; round < Rounds; ++round)
+    std::array<std::array<double, MedianRounds>, count> rounds;
+    for (std::size_t round = 0; round < MedianRounds; ++round)
     {
         std::size_t body = 0;
         ((rounds[body][round] = NanosecondsOfRuns(bodies, runs[body]) / static_cast<double>(runs[body]),
