@@ -10,6 +10,8 @@
 #include "frame/Result.h"
 #include "trace/TraceStatement.h"
 
+#include <new>
+
 namespace norvepa
 {
 
@@ -51,5 +53,20 @@ template <typename Body>
 // What an export answers that another one calls. Memory that ran out for it ran out for its caller: not one
 // of the codes that a caller takes for "not there".
 [[nodiscard]] Result AnswerOf(int32_t exportsResult);
+
+// What `body` answers, and OutOfMemory as one of its results instead of an exception: for whoever has
+// something to put back then. AnswerOf makes it an exception again.
+template <typename Body>
+[[nodiscard]] Result ResultOf(const Body& body)
+{
+    try
+    {
+        return body();
+    }
+    catch (const std::bad_alloc&)
+    {
+        return OutOfMemory;
+    }
+}
 
 } // namespace norvepa

@@ -51,6 +51,22 @@ TEST(AnswerOf, LetsTheCallerRunOutOfMemoryToo)
     EXPECT_THROW(static_cast<void>(AnswerOf(14)), std::bad_alloc);
 }
 
+TEST(ResultOf, PassesOnWhatTheBodyAnswers)
+{
+    EXPECT_EQ(ResultOf([] { return PGSP_ERR_PARAM_NOT_FOUND; }), PGSP_ERR_PARAM_NOT_FOUND);
+}
+
+TEST(ResultOf, TakesMemoryThatRanOutForAResult)
+{
+    EXPECT_EQ(ResultOf([]() -> Result { throw std::bad_alloc(); }), OutOfMemory);
+}
+
+TEST(ResultOf, LetsEveryOtherExceptionThrough)
+{
+    EXPECT_THROW(static_cast<void>(ResultOf([]() -> Result { throw std::length_error(""); })),
+                 std::length_error);
+}
+
 TEST(ExportFrame, LeavesByItsExitsWithTheirCodes)
 {
     const ExportFrame frame{Tag};

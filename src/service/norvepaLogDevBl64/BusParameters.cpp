@@ -6,7 +6,6 @@
 #include "store/norvxml.h"
 
 #include <cstdint>
-#include <new>
 #include <string>
 
 using namespace norvepa;
@@ -34,18 +33,10 @@ Result ApplyProfileAgain(const wchar_t* logDevice)
     return PGSP_LogDeviceEnumSetProfileBL(logDevice, PGSP_PARAM_PROFILES, profile.c_str());
 }
 
-// Memory that runs out behind the first write is a failure as any other until the old speed is back.
 Result WriteSpeedAndProfile(const std::wstring& file, const wchar_t* logDevice, const wchar_t* value)
 {
-    try
-    {
-        const Result result = WriteSpeed(file, value);
-        return result == PGSP_OK ? ApplyProfileAgain(logDevice) : result;
-    }
-    catch (const std::bad_alloc&)
-    {
-        return OutOfMemory;
-    }
+    const Result result = WriteSpeed(file, value);
+    return result == PGSP_OK ? ApplyProfileAgain(logDevice) : result;
 }
 
 // Straight to the store: the speed itself is neither checked nor announced; what the profile writes is both.
@@ -53,7 +44,7 @@ Result ChangeSpeedOfL2(const std::wstring& file, const wchar_t* logDevice, const
 {
     std::wstring oldValue;
     static_cast<void>(NorvXMLGetValue(file.c_str(), SpeedSection, PGSP_PARAM_BAUDRATE, &oldValue));
-    const Result result = WriteSpeedAndProfile(file, logDevice, value);
+    const Result result = ResultOf([&] { return WriteSpeedAndProfile(file, logDevice, value); });
     if (result != PGSP_OK)
     {
         static_cast<void>(WriteSpeed(file, oldValue.c_str()));

@@ -8,7 +8,6 @@
 #include "service/norvepaPgspBl64/profiles/profiles.h"
 
 #include <cstdint>
-#include <optional>
 
 using namespace norvepa;
 
@@ -151,27 +150,18 @@ Pairs WriteProfile(const ExportFrame& frame, const Choice& choice)
     return Pairs::None;
 }
 
-Result ReturnNoValue(const ExportFrame& frame, TracePlace place = TracePlace::current())
+} // namespace
+
+namespace norvepa
+{
+
+Result ReturnNoValue(const ExportFrame& frame, TracePlace place)
 {
     NORV_TRACE_AT(place, frame, TraceExit, "<< return PGSP_PROFILE_NO_VALUE");
     return PGSP_PROFILE_NO_VALUE;
 }
 
-// The value of a parameter as a caller reads it; none also for one that doesn't fit.
-std::optional<std::wstring> ReadOldValue(const wchar_t* logDevice, const wchar_t* parameter)
-{
-    constexpr std::uint32_t capacity = 256;
-    std::wstring value(capacity, L'\0');
-    std::uint32_t length = capacity;
-    if (AnswerOf(LogDeviceGetValueBL(logDevice, parameter, value.data(), &length)) != PGSP_OK)
-    {
-        return std::nullopt;
-    }
-    value.resize(length);
-    return value;
-}
-
-} // namespace
+} // namespace norvepa
 
 int32_t PGSP_LogDeviceSetProfileRBL(const wchar_t* LogDevice, const wchar_t* Profile,
                                     const wchar_t* Parameter)
@@ -198,44 +188,3 @@ int32_t PGSP_LogDeviceSetProfileRBL(const wchar_t* LogDevice, const wchar_t* Pro
         return WriteProfile(frame, choice) == Pairs::Written ? frame.Ok() : ReturnNoValue(frame);
     });
 }
-
-namespace norvepa
-{
-
-Result PGSP_LogDeviceEnumSetProfileBL(const wchar_t* LogDevice, const wchar_t* Parameter,
-                                      const wchar_t* Value) noexcept
-{
-    return Result{RunExport("PGSP_LogDeviceEnumSetProfileBL: ", [&](const ExportFrame& frame) -> Result {
-        NORV_TRACE(frame, TraceEntry, ">> LogDevice = %s, Parameter = %s, Value = %s", TraceToAnsi(LogDevice),
-                   TraceToAnsi(Parameter), TraceToAnsi(Value));
-        if (IsMissing(LogDevice) || IsMissing(Parameter) || Value == nullptr)
-        {
-            return frame.InvalidParameters();
-        }
-        const auto oldValue = ReadOldValue(LogDevice, Parameter);
-        if (!oldValue)
-        {
-            NORV_TRACE(frame, TraceExit, "<< return PGSP_ERR_PARAM_NOT_FOUND");
-            return PGSP_ERR_PARAM_NOT_FOUND;
-        }
-
-        if (AnswerOf(LogDeviceSetValueBL(LogDevice, Parameter, Value)) != PGSP_OK)
-        {
-            return ReturnNoValue(frame);
-        }
-        std::wstring protocol;
-        if (LogDeviceGetValue(LogDevice, L"CP_TYPE", &protocol) != PGSP_OK)
-        {
-            return ReturnNoValue(frame); // the new value stays
-        }
-        const Result result{PGSP_LogDeviceSetProfileRBL(LogDevice, protocol.c_str(), Parameter)};
-        if (result != PGSP_OK)
-        {
-            static_cast<void>(LogDeviceSetValueBL(LogDevice, Parameter, oldValue->c_str()));
-            return result == OutOfMemory ? frame.Return(result) : ReturnNoValue(frame);
-        }
-        return frame.Return(PGSP_OK);
-    })};
-}
-
-} // namespace norvepa

@@ -3,7 +3,7 @@
 // What follows from a choice: the two parameters that decide others, and how such a choice is made for a log
 // device.
 
-#include "frame/Result.h"
+#include "frame/ExportFrame.h"
 
 #include <string>
 #include <string_view>
@@ -17,6 +17,9 @@ inline constexpr wchar_t PGSP_PARAM_PROFILES[] = L"busparam";
 
 // The value of `PGSP_PARAM_PROFILES` that is the user's own profile.
 inline constexpr wchar_t PGSP_PARAM_PROFILES_USER[] = L"3";
+
+// The exit when a profile isn't there or couldn't be written whole: PGSP_PROFILE_NO_VALUE.
+[[nodiscard]] Result ReturnNoValue(const ExportFrame& frame, TracePlace place = TracePlace::current());
 
 // Sets a parameter of a log device and applies the profile that follows from the new value; when there is
 // none, or it can't be written whole, the parameter gets its old value back, but for a log device whose
