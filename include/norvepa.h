@@ -641,9 +641,9 @@ int32_t LogDeviceDelVmdIdBL(const wchar_t* LogDevice);
  * PGSP_ERR_FOLDER_NOT_FOUND             the data folder can't be found any more
  *
  * After a failure the speed is the old one again; an "L2" that had none is left with an empty one, and when
- * memory runs out for the "ttr" of an "MPI", all else has been changed. Notifies "LogDevices", the log device,
- * for each value that has changed, but not for the speed of an "L2". Needs COM on the calling thread, but for
- * an "L2" with the user's own profile.
+ * memory runs out for the "ttr" of an "MPI", all else has been changed. Notifies "LogDevices", the log
+ * device, for each value that has changed, but not for the speed of an "L2". Needs COM on the calling thread,
+ * but for an "L2" with the user's own profile.
  */
 int32_t LogDeviceSetBusparamsBL(const wchar_t* LogDevice, const wchar_t* Value);
 

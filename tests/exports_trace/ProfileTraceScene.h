@@ -1,6 +1,7 @@
 #pragma once
 
-// The trace of choices that a log device "Presse" makes in its protocol "P", and the writes that they lead to.
+// The trace of choices that a log device "Presse" makes in its protocol "P", and the writes that they lead
+// to.
 
 #include "CatalogueTraceScene.h"
 #include "support/DeviceStore.h"
@@ -14,8 +15,8 @@ namespace norvepa::test
 class ProfileTraceScene : public CatalogueTraceScene
 {
 protected:
-    // The protocol's speed 9600 has two parameters, its profile 1 those of that speed, its profile 3 none; the
-    // speed 1200 has one that can't be written. The protocols "L2" and "MPI" are the same.
+    // The protocol's speed 9600 has two parameters, its profile 1 those of that speed, its profile 3 none;
+    // the speed 1200 has one that can't be written. The protocols "L2" and "MPI" are the same.
     ProfileTraceScene()
     {
         const XmlContent pairs = XmlContent().Text(L"slot", L"9").Text(L"gap", L"8");

@@ -77,8 +77,8 @@ XmlContent MpiContent()
                                     .Raw(Profiles(XmlContent().Int(L"slot", L"100")).utf8()));
 }
 
-// Those of this one stand within a profile. A section that is looked for by its name alone stands ahead of its
-// namesake there.
+// Those of this one stand within a profile. A section that is looked for by its name alone stands ahead of
+// its namesake there.
 XmlContent L2Content()
 {
     const XmlContent profile =

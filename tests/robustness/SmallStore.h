@@ -77,8 +77,8 @@ protected:
                                              const std::function<void()>& prepare,
                                              const std::function<void(const Outcome&)>& look);
 
-    // The same with the DOM engine lacking memory for its first call, then for the second and so on. `look` is
-    // also told whether there was a call to fail.
+    // The same with the DOM engine lacking memory for its first call, then for the second and so on. `look`
+    // is also told whether there was a call to fail.
     static void AskWithEachEngineCallFailing(const Question& question, const std::function<void()>& prepare,
                                              const std::function<void(const Outcome&, bool)>& look);
 
