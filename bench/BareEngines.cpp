@@ -23,6 +23,10 @@ constexpr CLSID DocumentClass = {
     0x88d96a05, 0xf192, 0x11d4, {0xa6, 0x5f, 0x00, 0x40, 0x96, 0x32, 0x51, 0xe5}};
 constexpr IID DocumentInterface = {
     0x2933bf95, 0x7b36, 0x11d2, {0xb2, 0x0e, 0x00, 0xc0, 0x4f, 0x98, 0x3e, 0x60}};
+constexpr CLSID CollectionClass = {
+    0x88d96a07, 0xf192, 0x11d4, {0xa6, 0x5f, 0x00, 0x40, 0x96, 0x32, 0x51, 0xe5}};
+constexpr IID CollectionInterface = {
+    0x373984c8, 0xb845, 0x449b, {0x91, 0xe7, 0x45, 0xac, 0x83, 0x03, 0x6a, 0xde}};
 
 void Require(bool succeeded, const char* what)
 {
@@ -60,16 +64,37 @@ std::wstring_view ValueOf(IXmlReader& reader)
     return {value, length};
 }
 
-ComPtr<IXMLDOMDocument2> LoadDocument(const std::wstring& file)
+ComPtr<IXMLDOMDocument2> MakeDocument()
 {
     ComPtr<IXMLDOMDocument2> document;
     Require(SUCCEEDED(CoCreateInstance(DocumentClass, nullptr, CLSCTX_INPROC_SERVER, DocumentInterface,
                                        reinterpret_cast<void**>(document.GetAddressOf()))),
             "no document");
     document->put_async(VARIANT_FALSE);
+    return document;
+}
+
+void Load(IXMLDOMDocument2& document, const std::wstring& file)
+{
     VARIANT_BOOL loaded = VARIANT_FALSE;
-    document->load(_variant_t(file.c_str()), &loaded);
+    document.load(_variant_t(file.c_str()), &loaded);
     Require(loaded == VARIANT_TRUE, "not loaded");
+}
+
+ComPtr<IXMLDOMDocument2> LoadDocument(const std::wstring& file)
+{
+    ComPtr<IXMLDOMDocument2> document = MakeDocument();
+    Load(*document.Get(), file);
+    return document;
+}
+
+ComPtr<IXMLDOMDocument2> LoadAsItStands(const std::wstring& file)
+{
+    ComPtr<IXMLDOMDocument2> document = MakeDocument();
+    document->put_validateOnParse(VARIANT_FALSE);
+    document->put_resolveExternals(VARIANT_FALSE);
+    document->put_preserveWhiteSpace(VARIANT_TRUE);
+    Load(*document.Get(), file);
     return document;
 }
 
@@ -134,6 +159,22 @@ void WriteWithMsxml(const std::wstring& file, const std::wstring& parameter, con
     const ComPtr<IXMLDOMDocument2> document = LoadDocument(file);
     FindValue(*document.Get(), parameter)->put_text(_bstr_t(value.c_str()));
     Require(SUCCEEDED(document->save(_variant_t(file.c_str()))), "not saved");
+}
+
+void ValidateWithMsxml(const std::wstring& schema, const std::wstring& namespaceUri, const std::wstring& file)
+{
+    const ComPtr<IXMLDOMDocument2> schemaDocument = LoadAsItStands(schema);
+    const ComPtr<IXMLDOMDocument2> document = LoadAsItStands(file);
+    ComPtr<IXMLDOMSchemaCollection> collection;
+    Require(SUCCEEDED(CoCreateInstance(CollectionClass, nullptr, CLSCTX_INPROC_SERVER, CollectionInterface,
+                                       reinterpret_cast<void**>(collection.GetAddressOf()))),
+            "no collection");
+    collection->add(_bstr_t(namespaceUri.c_str()), _variant_t(schemaDocument.Get()));
+    document->putref_schemas(_variant_t(collection.Get()));
+    ComPtr<IXMLDOMParseError> error;
+    long code = -1;
+    Require(SUCCEEDED(document->validate(&error)) && SUCCEEDED(error->get_errorCode(&code)) && code == 0,
+            "not valid");
 }
 
 std::wstring ReadWithRegistry(const std::wstring& key, const std::wstring& parameter)

@@ -19,6 +19,10 @@ namespace norvepa::bench
 // The whole document loaded, the entry found by a path, its value replaced, all of it saved.
 void WriteWithMsxml(const std::wstring& file, const std::wstring& parameter, const std::wstring& value);
 
+// The schema and the document loaded, all white space kept, and the document validated.
+void ValidateWithMsxml(const std::wstring& schema, const std::wstring& namespaceUri,
+                       const std::wstring& file);
+
 // The key opened, the value read, the key closed.
 [[nodiscard]] std::wstring ReadWithRegistry(const std::wstring& key, const std::wstring& parameter);
 

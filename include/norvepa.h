@@ -12,7 +12,7 @@
  *               left as it is, the length becomes n, and the result is PGSP_ERR_BUFFER_TOO_SHORT. After
  *               any other failure buffer and length are as they were, unless a function says otherwise.
  *   Ownership   stays with the caller for all that goes in and for all buffers; nothing is kept after
- *               the return, and nothing has to be released.
+ *               the return, and nothing has to be released but what norvDriverReadLogDevice hands out.
  *   Threads     Any function may be called on any thread, any number at once. Two calls that write the
  *               same file are not serialised: the last one to save wins.
  *   Roots       are looked up at every call, below HKEY_LOCAL_MACHINE in
@@ -802,6 +802,73 @@ int32_t LogDeviceGetAsicTypeBL(const wchar_t* LogDevice, wchar_t* AsicType, uint
  */
 int32_t LogDeviceGetParamDescBL(const wchar_t* LogDevice, const wchar_t* Parameter, const wchar_t* ParamDesc,
                                 wchar_t* Value, uint32_t* dwValue);
+
+/*
+ * Hands out a stored file in pieces of the caller's size, for callers who can't read it themselves. At index 0
+ * the file is read whole; that index and those behind it are then answered from a copy of the library's own,
+ * which goes with the last piece. What stands between a ">" and the next character that isn't a blank, a tab or
+ * a line end is left out, and a zero byte follows the last character; it counts.
+ *
+ *   clientId   in      whose transfer this is, of the caller's choice. Two transfers of one file need two ids
+ *   kind       in      which file: 1 a log name, 2 a log device, 3 a board, 4 a template, 5 a protocol; any
+ *                      other number is a log device
+ *   name       in      its name, with or without the prefix of its kind; a "*" at its start is dropped
+ *   index      in      which piece, from 0
+ *   buffer     out     buffer for the piece
+ *   bufferLen  in/out  in: the length of a piece in bytes, the same at each index. Out: how many bytes of buffer
+ *                      are set; bytes, not characters
+ *
+ * PGSP_OK                      the last piece
+ * PGSP_ERR_BUFFER_TOO_SHORT    a whole piece, and more is to come: ask for the next index. Also, with nothing
+ *                              set, for a name whose escaped form has 260 characters or more
+ * PGSP_ERR_NO_MORE_ITEMS       nothing is set: at index 0 there is no such file, or it can't be read; else no
+ *                              transfer is under way, or it has no such piece, and is over
+ * PGSP_ERR_INVALID_PARAMETERS  name, buffer or bufferLen is null, or the name is empty
+ *
+ * A reader who stops half way leaves the copy behind until the same client asks for index 0 of the same file, or
+ * until the library is unloaded.
+ */
+int32_t LogDeviceGetXmlBL(uint32_t clientId, uint16_t kind, const wchar_t* name, uint32_t index,
+                          uint8_t* buffer, uint32_t* bufferLen);
+
+/*
+ * Reads a log device as its driver is to receive it: the file is loaded and checked by its schema, and the
+ * parameters of the sections that its Load element names are written as records, in the order of Load. Needs COM
+ * on the calling thread.
+ *
+ *   LogDevice  in   the log device
+ *   outBuffer  out  the records; to be released by the caller with GlobalFree
+ *   outLength  out  their length in bytes; 0 when the sections named have no parameters
+ *
+ * The records follow each other without a header or an end. Numbers are little-endian, texts UTF-16 without a
+ * terminator:
+ *
+ *   0      2  length of the whole record in bytes
+ *   2      1  length n of the name in bytes
+ *   3      n  name; that of a subdevice's parameter is subdevice/name
+ *   3 + n  1  1
+ *   4 + n  1  type: 0 boolean, 1 integer, 2 string
+ *   5 + n  1  length m of the value in bytes: 4 but for a string
+ *   6 + n  m  value: a boolean is 0 or 1 in 32 bits, an integer is signed and has 32 bits
+ *
+ * Texts are cut at 260 characters, and of their lengths only the lowest 8 bits are told and that many bytes
+ * written: a text of 128 characters arrives empty, one of 130 as its first two characters.
+ *
+ * PGSP_OK                          outBuffer and outLength are set
+ * PGSP_ERR_INVALID_PARAMETERS      LogDevice is null or empty, or an output is null
+ * PGSP_ERR_BUFFER_TOO_SHORT        the escaped name has 260 characters or more
+ * PGSP_ERR_CANT_CREATE_XML_ENGINE  no XML engine, as on a thread without COM
+ * PGSP_ERR_INVALID_FILE            the file doesn't fit its schema
+ * PGSP_ERR_CANT_LOAD_XML_FILE      there is no such log device, or its file can't be loaded
+ * PGSP_ERR_CANT_LOAD_SCHEMA        the schema can't be loaded; looked at ahead of the file
+ * PGSP_ERR_DRIVER_READ             the file names nothing to load
+ * PGSP_ERR_FOLDER_NOT_FOUND        the data folder or the program folder can't be found
+ * PGSP_ERR_DRIVER_BUFFER           there is no memory for the records
+ * PGSP_ERR_DRIVER_NO_MEMORY        there is no more memory for the records
+ *
+ * After a failure the outputs are as they were.
+ */
+int32_t norvDriverReadLogDevice(const wchar_t* LogDevice, uint8_t** outBuffer, uint32_t* outLength);
 
 /* Network device identity: what tools show of a log device -------------------------------------------
  *

@@ -4,6 +4,9 @@
 #include "xml/Engine.h"
 
 #include <objbase.h>
+#include <shlwapi.h>
+
+#include <new>
 
 namespace norvepa
 {
@@ -51,8 +54,28 @@ void Document::LoadAsItStands()
 
 bool Document::Load(const std::wstring& file)
 {
+    return LoadFrom(Bstr(file).asVariant());
+}
+
+bool Document::LoadBytes(std::string_view bytes)
+{
+    ComPtr<IStream> stream;
+    stream.Attach(
+        SHCreateMemStream(reinterpret_cast<const BYTE*>(bytes.data()), static_cast<UINT>(bytes.size())));
+    if (!stream)
+    {
+        throw std::bad_alloc();
+    }
+    VARIANT source = {};
+    source.vt = VT_UNKNOWN;
+    source.punkVal = stream.Get();
+    return LoadFrom(source);
+}
+
+bool Document::LoadFrom(VARIANT source)
+{
     VARIANT_BOOL loaded = VARIANT_FALSE;
-    const HRESULT status = Checked(m_document->load(Bstr(file).asVariant(), &loaded));
+    const HRESULT status = Checked(m_document->load(source, &loaded));
     if (SUCCEEDED(status) && loaded == VARIANT_TRUE)
     {
         return true;

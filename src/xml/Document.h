@@ -31,6 +31,7 @@ public:
 
     // True when the engine has read all of the file and found it well-formed.
     [[nodiscard]] bool Load(const std::wstring& file);
+    [[nodiscard]] bool LoadBytes(std::string_view bytes); // the same of a file's content
     [[nodiscard]] bool Save(const std::wstring& file) const;
 
     [[nodiscard]] Node Root() const;
@@ -49,6 +50,7 @@ public:
     [[nodiscard]] IXMLDOMDocument2* get() const noexcept { return m_document.Get(); }
 
 private:
+    [[nodiscard]] bool LoadFrom(VARIANT source);
     void CheckParseError() const;
 
     Microsoft::WRL::ComPtr<IXMLDOMDocument2> m_document;

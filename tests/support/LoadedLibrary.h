@@ -73,6 +73,7 @@ struct Exports : LoadedLibrary
     decltype(&::LogDeviceSetBusparamsBL) LogDeviceSetBusparamsBL = Find("LogDeviceSetBusparamsBL");
     decltype(&::LogDeviceSetValueBL) LogDeviceSetValueBL = Find("LogDeviceSetValueBL");
     decltype(&::LogDeviceUpdateWithTempBL) LogDeviceUpdateWithTempBL = Find("LogDeviceUpdateWithTempBL");
+    decltype(&::LogDeviceGetXmlBL) LogDeviceGetXmlBL = Find("LogDeviceGetXmlBL");
     decltype(&::LogNameCreateBL) LogNameCreateBL = Find("LogNameCreateBL");
     decltype(&::LogNameDelValueBL) LogNameDelValueBL = Find("LogNameDelValueBL");
     decltype(&::LogNameDeleteBL) LogNameDeleteBL = Find("LogNameDeleteBL");
@@ -151,6 +152,7 @@ struct Exports : LoadedLibrary
     decltype(&::RegisterNotification) RegisterNotification = Find("RegisterNotification");
     decltype(&::SetValueInPGSP_BL) SetValueInPGSP_BL = Find("SetValueInPGSP_BL");
     decltype(&::UnRegisterNotification) UnRegisterNotification = Find("UnRegisterNotification");
+    decltype(&::norvDriverReadLogDevice) norvDriverReadLogDevice = Find("norvDriverReadLogDevice");
 };
 
 } // namespace norvepa::test
