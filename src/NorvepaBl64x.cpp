@@ -1,5 +1,7 @@
 #include "NorvepaBl64x.h"
 
+#include "ExceptionReserve.h"
+#include "ModuleSecurity.h"
 #include "meta/cMetaFiles.h"
 #include "norvepa.h"
 #include "notify/NotifyRegistration.h"
@@ -7,7 +9,6 @@
 #include "trace/Norvotrc.h"
 
 #include <windows.h>
-#include <aclapi.h>
 #include <objbase.h>
 
 namespace norvepa
@@ -16,43 +17,8 @@ namespace norvepa
 namespace
 {
 
-constexpr DWORD FullAccess = 0x1F01FF; // FILE_ALL_ACCESS
-
-// Stays for the life of the process with its SID and list: the trace mutex and ring are made with it.
-SECURITY_DESCRIPTOR moduleSecurity;
-
-void AllowAuthenticatedUsers(SECURITY_DESCRIPTOR& descriptor) noexcept
-{
-    SID_IDENTIFIER_AUTHORITY authority = {SECURITY_NT_AUTHORITY};
-    PSID authenticatedUsers = nullptr;
-    if (!AllocateAndInitializeSid(&authority, 1, SECURITY_AUTHENTICATED_USER_RID, 0, 0, 0, 0, 0, 0, 0,
-                                  &authenticatedUsers))
-    {
-        OutputDebugStringW(L"AllocateAndInitializeSid failed for norvepaBl64x.dll");
-    }
-
-    EXPLICIT_ACCESSW access = {};
-    access.grfAccessPermissions = FullAccess;
-    access.grfAccessMode = SET_ACCESS;
-    access.grfInheritance = NO_INHERITANCE;
-    access.Trustee.TrusteeForm = TRUSTEE_IS_SID;
-    access.Trustee.TrusteeType = TRUSTEE_IS_GROUP;
-    access.Trustee.ptstrName = static_cast<LPWSTR>(authenticatedUsers);
-    PACL list = nullptr;
-    if (SetEntriesInAclW(1, &access, nullptr, &list) != ERROR_SUCCESS)
-    {
-        OutputDebugStringW(L"SetEntriesInAcl failed for norvepaBl64x.dll");
-    }
-
-    if (!InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION))
-    {
-        OutputDebugStringW(L"InitializeSecurityDescriptor failed for norvepaBl64x.dll");
-    }
-    if (!SetSecurityDescriptorDacl(&descriptor, TRUE, list, FALSE))
-    {
-        OutputDebugStringW(L"SetSecurityDescriptorDacl failed for norvepaBl64x.dll");
-    }
-}
+// The trace mutex and ring are made with it.
+constinit ModuleSecurity moduleSecurity;
 
 } // namespace
 
@@ -60,8 +26,8 @@ int CNorvepaBl64xApp::InitInstance() noexcept
 {
     CoInitialize(nullptr);
 
-    AllowAuthenticatedUsers(moduleSecurity);
-    SECURITY_ATTRIBUTES security = {sizeof(security), &moduleSecurity, FALSE};
+    moduleSecurity.Make();
+    SECURITY_ATTRIBUTES security = moduleSecurity.attributes();
     TraceInit(&security, "norvepaBl64x");
     return 1;
 }
@@ -77,6 +43,15 @@ namespace
 {
 
 CNorvepaBl64xApp theApp;
+
+// What the module would otherwise leave behind in a process that goes on without it. The caches go by
+// themselves, when the run-time library ends the static objects behind this.
+void GiveBack() noexcept
+{
+    TraceEnd();
+    moduleSecurity.Free();
+    FreeExceptionReserve();
+}
 
 } // namespace
 
@@ -94,9 +69,12 @@ BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID processEnds)
     {
         return norvepa::theApp.InitInstance();
     }
+    // A process that ends takes everything along. Its other threads have been stopped wherever they were: no lock
+    // is waited for, and nothing that they may have held is touched.
     if (reason == DLL_PROCESS_DETACH && processEnds == nullptr)
     {
-        return norvepa::theApp.ExitInstance();
+        norvepa::theApp.ExitInstance();
+        norvepa::GiveBack();
     }
     return TRUE;
 }

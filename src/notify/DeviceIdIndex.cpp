@@ -5,7 +5,7 @@
 namespace norvepa
 {
 
-std::recursive_mutex deviceIdMutex;
+constinit win::RecursiveMutex deviceIdMutex;
 DeviceIdIndex deviceIdIndex;
 
 namespace

@@ -6,9 +6,10 @@
 // it marks it, and whoever looks next empties it first. So no order of the two locks can block. A change that
 // is met while the index is being made shows in the next answer, not in this one.
 
+#include "win/Mutex.h"
+
 #include <atomic>
 #include <map>
-#include <mutex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,7 +53,7 @@ private:
 };
 
 // Held from before the watch is polled until the answer is copied. Recursive: answering enumerates.
-extern std::recursive_mutex deviceIdMutex;
+extern constinit win::RecursiveMutex deviceIdMutex;
 extern DeviceIdIndex deviceIdIndex;
 
 } // namespace norvepa

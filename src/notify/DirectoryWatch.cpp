@@ -4,6 +4,7 @@
 #include "notify/directoryCache.h"
 #include "trace/TraceStatement.h"
 #include "win/FileSystem.h"
+#include "win/Mutex.h"
 
 #include <windows.h>
 
@@ -22,7 +23,7 @@ constexpr std::size_t LogDevices = 0;
 constexpr std::size_t LogNames = 1;
 
 // One at a time: a poll, or the watch being set up or ended.
-std::recursive_mutex watchMutex;
+constinit win::RecursiveMutex watchMutex;
 std::array<win::ChangeNotification, 2> watchHandles;
 std::atomic<bool> watchActive{false}; // both handles are open
 

@@ -2,7 +2,8 @@
 
 // What the watch drops in the cache of listings. Internal to this folder: all others ask directoryCache.h.
 
-#include <mutex>
+#include "win/Mutex.h"
+
 #include <string>
 
 namespace norvepa
@@ -10,7 +11,7 @@ namespace norvepa
 
 // Guards the listings, and not the scans for them. Whoever polls takes it under watchMutex, never the other
 // way round.
-extern std::recursive_mutex directoryMutex;
+extern constinit win::RecursiveMutex directoryMutex;
 
 // Both while directoryMutex is held. A scan that began before either may have seen the folder as it was, and
 // is not kept.

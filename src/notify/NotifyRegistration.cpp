@@ -3,12 +3,13 @@
 #include "frame/Text.h"
 
 #include <cstdint>
+#include <mutex>
 #include <utility>
 
 namespace norvepa
 {
 
-std::mutex notifyRegisterMutex;
+constinit win::Mutex notifyRegisterMutex;
 std::unique_ptr<NotifyRegisterList> notifyRegisterList;
 
 template <std::size_t Width>

@@ -5,9 +5,10 @@
 // The list exists while it has entries. It, its records and the pointer to it belong to whoever holds
 // notifyRegisterMutex; no other lock is taken meanwhile but the trace's.
 
+#include "win/Mutex.h"
+
 #include <array>
 #include <memory>
-#include <mutex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -51,7 +52,7 @@ struct NotifyRegistration
 
 using NotifyRegisterList = std::vector<std::unique_ptr<NotifyRegistration>>;
 
-extern std::mutex notifyRegisterMutex;
+extern constinit win::Mutex notifyRegisterMutex;
 extern std::unique_ptr<NotifyRegisterList> notifyRegisterList; // in the order of registration
 
 // Puts a record behind the others, and makes the list for the first. Under the mutex.

@@ -17,7 +17,7 @@
 namespace norvepa
 {
 
-std::recursive_mutex directoryMutex;
+constinit win::RecursiveMutex directoryMutex;
 
 namespace
 {

@@ -89,6 +89,15 @@ void TraceInit(SECURITY_ATTRIBUTES* security, const char* name) noexcept
     TraceReadSettings(SecurityAttributes());
 }
 
+void TraceEnd() noexcept
+{
+    trace_state::levelMask.store(0);
+    trace_state::settingsSnapshot.store(trace_state::noSettingsCounter);
+    CloseTraceOutputs();
+    CloseSettingsCounter();
+    CloseTraceMutex();
+}
+
 void TraceOut(const char* tag, std::uint32_t level, const char* component, std::uint32_t status,
               std::uint32_t extra, const char* sourceFile, int line, const char* text) noexcept
 {

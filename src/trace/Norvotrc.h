@@ -2,8 +2,9 @@
 
 // The trace client: one text line per event, to the output that the registry names.
 //
-// Callers may rely on: nothing here fails or throws, and nothing is ever torn down; mutex, mappings
-// and the trace engine library stay until the process ends. Several processes may trace at once.
+// Callers may rely on: nothing here fails or throws, and nothing is torn down while the module is in the
+// process: mutex, mappings and the trace engine library stay, whatever the settings turn to. Several processes
+// may trace at once.
 
 #include <windows.h>
 
@@ -14,5 +15,9 @@ namespace norvepa
 // shared ring; the attributes are copied, the descriptor they point to must stay. Called once, when the
 // module is loaded.
 void TraceInit(SECURITY_ATTRIBUTES* security, const char* moduleName) noexcept;
+
+// Gives back every handle, view and library, and switches all statements off. Called once, when the module is
+// unloaded from a process that goes on, and all other threads are out of it.
+void TraceEnd() noexcept;
 
 } // namespace norvepa

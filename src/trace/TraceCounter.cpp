@@ -138,4 +138,10 @@ void MakeSettingsCounter() noexcept
     }
 }
 
+void CloseSettingsCounter() noexcept
+{
+    trace_state::settingsCounter.store(&trace_state::noSettingsCounter);
+    counter.LetGo();
+}
+
 } // namespace norvepa

@@ -10,4 +10,7 @@ namespace norvepa
 // What can't be made is told to the debugger; the statements then see a counter that never changes.
 void MakeSettingsCounter() noexcept;
 
+// When the module goes: see TraceEnd. The statements see a counter that never changes from then on.
+void CloseSettingsCounter() noexcept;
+
 } // namespace norvepa

@@ -33,6 +33,11 @@ void MakeTraceMutex(SECURITY_ATTRIBUTES* security) noexcept
     mutex.Publish(std::move(made));
 }
 
+void CloseTraceMutex() noexcept
+{
+    mutex.LetGo();
+}
+
 void TraceLock() noexcept
 {
     MakeTraceMutex(nullptr);

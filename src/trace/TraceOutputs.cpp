@@ -122,4 +122,11 @@ void WriteTraceLine(const TraceSettings& settings, std::string_view line) noexce
     }
 }
 
+void CloseTraceOutputs() noexcept
+{
+    driver.LetGo();
+    ring.LetGo();
+    engine.LetGo();
+}
+
 } // namespace norvepa

@@ -21,4 +21,7 @@ void PrepareTraceOutput(const TraceSettings& settings, const TraceSettings& befo
 // Writes a line, without its ending; what the ending is depends on the output.
 void WriteTraceLine(const TraceSettings& settings, std::string_view line) noexcept;
 
+// When the module goes: see TraceEnd. Closes whatever has been opened.
+void CloseTraceOutputs() noexcept;
+
 } // namespace norvepa

@@ -1,11 +1,11 @@
 #pragma once
 
-// A thing of the whole process that is made when it is first wanted and then stays until the process
-// ends: no destructor runs, so code that runs during the exit may still use it.
+// A thing of the whole module that is made when it is first wanted and then stays until the module goes: no
+// destructor runs by itself, so code that runs during the process's exit may still use it.
 //
 // Callers may rely on: Get() and Publish() never wait, from any thread; what Get() has answered stays
 // valid. When two threads publish at once one wins, and the loser's thing dies with its argument.
-// Callers must not: use it for what holds memory or handles in number; there is no way to let go.
+// Callers must not: let go of it but once all other threads are out of the module.
 
 #include <atomic>
 #include <memory>
@@ -39,6 +39,16 @@ public:
         }
         std::construct_at(std::addressof(m_room.thing), std::move(thing));
         m_state.store(State::Ready, std::memory_order_release);
+    }
+
+    // As before the first publication.
+    void LetGo() noexcept
+    {
+        if (Thing* const thing = Get())
+        {
+            std::destroy_at(thing);
+            m_state.store(State::Empty);
+        }
     }
 
 private:
