@@ -27,7 +27,8 @@ XmlContent DeviceContent(std::wstring_view unit)
         .Element(L"Ndi", XmlContent().Bool(L"enable_delete", L"true").Text(L"Typ", L"einstufig"))
         .Element(
             L"UserInterface",
-            XmlContent().Text(L"Titel", L"Presse").Resource(LinkToText(L"1005")).ParameterAssemblyLink(page));
+            XmlContent().Text(L"Titel", L"Presse").Resource(LinkToText(L"1005")).ParameterAssemblyLink(page))
+        .Element(L"Load", XmlContent().Element(L"section", L"Busparameter").Element(L"section", L"Bindings"));
 }
 
 // All of its bus parameters differ from those of its speed's profile.

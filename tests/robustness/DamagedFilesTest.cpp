@@ -37,6 +37,7 @@ const std::set<std::int32_t> Codes{PGSP_OK,
                                    PGSP_ERR_PARAM_NOT_FOUND,
                                    PGSP_ERR_CANT_SET_VALUE,
                                    PGSP_ERR_SAME_VALUE,
+                                   PGSP_ERR_DRIVER_READ,
                                    PGSP_ERR_CANT_LOAD_RESOURCE};
 
 bool IsList(const Question& question)

@@ -1,6 +1,10 @@
 #include "Questions.h"
 #include "norvepa.h"
 
+#include <windows.h>
+
+#include <algorithm>
+
 namespace norvepa::test
 {
 
@@ -13,6 +17,31 @@ Outputs Emptied(std::wstring Outputs::*buffer)
     Outputs outputs;
     (outputs.*buffer)[0] = L'\0';
     return outputs;
+}
+
+// A log name's file in one piece, whose length is told in bytes.
+std::int32_t ReadFile(Outputs& outputs)
+{
+    constexpr std::uint32_t client = 7;
+    std::uint32_t length = Outputs::Capacity * sizeof(wchar_t);
+    const std::int32_t result = LogDeviceGetXmlBL(
+        client, 1, L"Pumpe", 0, reinterpret_cast<std::uint8_t*>(outputs.first.data()), &length);
+    outputs.firstLength = result == PGSP_OK ? length / sizeof(wchar_t) : outputs.firstLength;
+    return result;
+}
+
+std::int32_t ReadForDriver(Outputs& outputs)
+{
+    std::uint8_t* records = nullptr;
+    std::uint32_t length = 0;
+    const std::int32_t result = norvDriverReadLogDevice(L"Presse", &records, &length);
+    if (result == PGSP_OK)
+    {
+        outputs.firstLength = length;
+        std::copy_n(records, std::min<std::size_t>(length, Outputs::Capacity), outputs.first.begin());
+        GlobalFree(records);
+    }
+    return result;
 }
 
 } // namespace
@@ -47,6 +76,8 @@ const std::vector<Question>& StoreReads()
              return LogDeviceGetEnumByDeviceIdBL(L"AFK110", 1, o.first.data(), &o.firstLength,
                                                  o.second.data(), &o.secondLength);
          }},
+        {"LogDeviceGetXmlBL", ReadFile},
+        {"norvDriverReadLogDevice", ReadForDriver},
         {"LogDeviceExistBL", [](Outputs&) { return LogDeviceExistBL(L"Presse", 0); }},
         {"LogDeviceExistBLOfASubdevice",
          [](Outputs&) { return LogDeviceExistBL(L"Presse\\subdevices\\Achse", 0); }},
