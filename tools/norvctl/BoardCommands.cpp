@@ -125,6 +125,7 @@ void AddBoardCommands(CLI::App& app, const Report& report)
         ->required();
     get->add_option("--path", arguments->path, "where it stands: a section, or Constraints\\PARAMETER");
     AddBoardTextCommand(*board, report);
+    AddBoardXmlCommand(*board, report);
 }
 
 } // namespace norvctl

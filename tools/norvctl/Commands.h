@@ -29,11 +29,19 @@ void AddDeviceEditCommands(CLI::App& device, const Report& report); // device ed
 void AddNdiCommands(CLI::App& device, const Report& report);        // device ndi list, get, set, unset
 void AddDeviceProfileCommands(CLI::App& device, const Report& report);   // device profile, busparams
 void AddDeviceCatalogueCommands(CLI::App& device, const Report& report); // device choices, describe
+void AddDriverReadCommand(CLI::App& device, const Report& report);       // device driver-read
 
 // TextCommands.cpp: the verb text of each of these nouns.
 void AddDeviceTextCommand(CLI::App& device, const Report& report);
 void AddNameTextCommand(CLI::App& name, const Report& report);
 void AddBoardTextCommand(CLI::App& board, const Report& report);
 void AddTemplateTextCommand(CLI::App& noun, const Report& report);
+
+// XmlCommands.cpp: the verb xml of each of these nouns.
+void AddDeviceXmlCommand(CLI::App& device, const Report& report);
+void AddNameXmlCommand(CLI::App& name, const Report& report);
+void AddBoardXmlCommand(CLI::App& board, const Report& report);
+void AddProtocolXmlCommand(CLI::App& protocol, const Report& report);
+void AddTemplateXmlCommand(CLI::App& noun, const Report& report);
 
 } // namespace norvctl

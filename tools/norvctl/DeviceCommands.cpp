@@ -160,6 +160,8 @@ void AddDeviceCommands(CLI::App& app, const Report& report)
     AddDeviceCatalogueCommands(*device, report);
     AddNdiCommands(*device, report);
     AddDeviceTextCommand(*device, report);
+    AddDriverReadCommand(*device, report);
+    AddDeviceXmlCommand(*device, report);
 }
 
 } // namespace norvctl

@@ -203,6 +203,7 @@ void AddNameCommands(CLI::App& app, const Report& report)
         ->required();
     AddVerb(*name, report, "unlink", "take its link away", arguments, &Unlink);
     AddNameTextCommand(*name, report);
+    AddNameXmlCommand(*name, report);
 }
 
 } // namespace norvctl

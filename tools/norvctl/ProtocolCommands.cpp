@@ -166,6 +166,7 @@ void AddProtocolCommands(CLI::App& app, const Report& report)
         ->required();
     get->add_option("--value", arguments->profile, "a value of the parameter");
     AddSubValue(*get, *arguments);
+    AddProtocolXmlCommand(*protocol, report);
 }
 
 } // namespace norvctl

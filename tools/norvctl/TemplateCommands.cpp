@@ -129,6 +129,7 @@ void AddTemplateCommands(CLI::App& app, const Report& report)
         ->add_option("VALUE", arguments->value, "the value")
         ->required();
     AddTemplateTextCommand(*noun, report);
+    AddTemplateXmlCommand(*noun, report);
 }
 
 } // namespace norvctl

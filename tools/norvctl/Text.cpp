@@ -26,6 +26,13 @@ std::wstring ToWide(std::string_view utf8)
     return text;
 }
 
+bool IsUtf8(std::string_view bytes)
+{
+    const int length = static_cast<int>(bytes.size());
+    return bytes.empty() ||
+           MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, bytes.data(), length, nullptr, 0) != 0;
+}
+
 std::vector<std::string> CommandLineReversed()
 {
     int count = 0;

@@ -11,6 +11,7 @@ namespace norvctl
 
 [[nodiscard]] std::string ToUtf8(std::wstring_view text);
 [[nodiscard]] std::wstring ToWide(std::string_view utf8);
+[[nodiscard]] bool IsUtf8(std::string_view bytes);
 
 // The process's arguments without its name, last one first: the order that the parser takes them in.
 [[nodiscard]] std::vector<std::string> CommandLineReversed();
