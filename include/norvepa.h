@@ -628,22 +628,22 @@ int32_t LogDeviceDelVmdIdBL(const wchar_t* LogDevice);
  *   Value      in  the speed, as a value of "baudrate"
  *
  * PGSP_OK                               changed, with all that follows
- * PGSP_ERR_INVALID_PARAMETERS           LogDevice or Value is null; for "L2" also for a speed that isn't a
- *                                       number
+ * PGSP_ERR_INVALID_PARAMETERS           LogDevice or Value is null or empty; for "L2" also for a speed that
+ *                                       isn't a number
  * PGSP_PROFILE_NO_VALUE                 the speed was refused, or no profile belongs to it, or not all of its
  *                                       values could be written; also without a program folder, and on a
  *                                       thread without COM
  * PGSP_ERR_PARAM_NOT_FOUND              the log device has no "baudrate", for "L2" no "busparam", or that has
  *                                       256 characters or more; also without a data folder
  * PGSP_ERR_PARAMETER_DEFAULT_NOT_FOUND  there is no such log device, or it has no CP_TYPE
- * PGSP_ERR_FILE_NOT_FOUND, PGSP_ERR_CANT_LOAD_XML_FILE, PGSP_ERR_CANT_SET_VALUE, PGSP_ERR_BUFFER_TOO_SHORT
+ * PGSP_ERR_CANT_CREATE_XML_ENGINE, PGSP_ERR_CANT_LOAD_XML_FILE, PGSP_ERR_CANT_SET_VALUE
  *                                       for "L2": as LogDeviceSetValueBL
  * PGSP_ERR_FOLDER_NOT_FOUND             the data folder can't be found any more
  *
- * After a failure the speed is the old one again; an "L2" that had none is left with an empty one, and when
- * memory runs out for the "ttr" of an "MPI", all else has been changed. Notifies "LogDevices", the log
- * device, for each value that has changed, but not for the speed of an "L2". Needs COM on the calling thread,
- * but for an "L2" with the user's own profile.
+ * After a failure the speed is the old one again, if the catalogue still allows it; an "L2" that had none is
+ * left with an empty one, and when memory runs out for the "ttr" of an "MPI", all else has been changed.
+ * Notifies "LogDevices", the log device, for each value that has changed, but not for the speed of an "L2".
+ * Needs COM on the calling thread, but for an "L2" with the user's own profile.
  */
 int32_t LogDeviceSetBusparamsBL(const wchar_t* LogDevice, const wchar_t* Value);
 
@@ -1513,11 +1513,11 @@ int32_t PGSP_TemplateGetEnumBL(const wchar_t* FolderName, uint32_t index, wchar_
  *
  *   FolderName    in      as above
  *   index         in      which one
- *   TemplateName  out     buffer for the name
+ *   TemplateName  out     buffer for the name; may be null to learn the length by PGSP_ERR_BUFFER_TOO_SHORT
  *   TemplateLen   in/out  its length in characters
  *
  * PGSP_OK                      both are set
- * PGSP_ERR_INVALID_PARAMETERS  FolderName is null or empty, or an output is null
+ * PGSP_ERR_INVALID_PARAMETERS  FolderName is null or empty, or TemplateLen is null and there is such a file
  * PGSP_ERR_BUFFER_TOO_SHORT    TemplateLen tells the name's length
  * PGSP_ERR_NO_MORE_ITEMS       index lies past the last one
  * PGSP_ERR_FOLDER_NOT_FOUND    the program folder can't be found

@@ -126,5 +126,25 @@ TEST_F(NamesWithoutPrefix, FillABufferOfOneCharacterMore)
     EXPECT_EQ(name.length, 3U);
 }
 
+TEST_F(NamesWithoutPrefix, LookAtTheirOutputsOnlyWhenThereIsAName)
+{
+    WriteProtocol(L"MPI", {});
+    wchar_t buffer[10] = L"before";
+    std::uint32_t none = 0;
+    std::uint32_t enough = 10;
+
+    EXPECT_EQ(library.PGSP_TemplateGetEnumNoPrefixBL(L"Protocols", 1, nullptr, nullptr),
+              PGSP_ERR_NO_MORE_ITEMS);
+    EXPECT_EQ(library.PGSP_TemplateGetEnumNoPrefixBL(L"Protocols", 0, buffer, nullptr),
+              PGSP_ERR_INVALID_PARAMETERS);
+    EXPECT_EQ(library.PGSP_TemplateGetEnumNoPrefixBL(L"Protocols", 0, nullptr, &none),
+              PGSP_ERR_BUFFER_TOO_SHORT);
+    EXPECT_EQ(library.PGSP_TemplateGetEnumNoPrefixBL(L"Protocols", 0, nullptr, &enough), PGSP_OK);
+
+    EXPECT_STREQ(buffer, L"before");
+    EXPECT_EQ(none, 3U);
+    EXPECT_EQ(enough, 10U);
+}
+
 } // namespace
 } // namespace norvepa::test

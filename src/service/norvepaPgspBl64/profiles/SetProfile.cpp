@@ -108,7 +108,7 @@ Pairs WriteSubProfile(const ExportFrame& frame, const Choice& choice, const std:
 }
 
 // The first sub-parameter that has pairs is the last one looked at, and so is the first whose value in the
-// log device the protocol doesn't know. One without a value there has no pairs.
+// log device the protocol doesn't know. For one without a value there the pairs of its own section are meant.
 Pairs WriteSubProfiles(const ExportFrame& frame, const Choice& choice)
 {
     NORV_TRACE(frame, TraceInfo, "sParam=PGSP_PARAM_PROFILES  sParamValue=PGSP_PARAM_PROFILES_USER");

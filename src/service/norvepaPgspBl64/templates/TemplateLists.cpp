@@ -141,7 +141,7 @@ int32_t PGSP_TemplateGetEnumNoPrefixBL(const wchar_t* FolderName, uint32_t index
 {
     return RunExport("PGSP_TemplateGetEnumNoPrefixBL: ", [&](const ExportFrame& frame) -> Result {
         NORV_TRACE(frame, TraceEntry, ">> FolderName = %s, index = %d", TraceToAnsi(FolderName), index);
-        if (IsMissing(FolderName) || TemplateName == nullptr || TemplateLen == nullptr)
+        if (IsMissing(FolderName)) // the outputs aren't looked at before there is a name
         {
             return frame.InvalidParameters();
         }
@@ -159,7 +159,7 @@ int32_t PGSP_TemplateGetEnumNoPrefixBL(const wchar_t* FolderName, uint32_t index
             return frame.Return(result);
         }
         const std::wstring shown = NameShown(FolderName, name);
-        if (const Result result = CopyOut(shown, TemplateName, TemplateLen); result != PGSP_OK)
+        if (const Result result = CopyOutUntested(shown, TemplateName, TemplateLen); result != PGSP_OK)
         {
             return frame.Return(result);
         }
