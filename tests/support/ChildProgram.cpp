@@ -119,7 +119,8 @@ ProgramEnd ChildProgram::Finish()
 
     DWORD exitCode = STILL_ACTIVE;
     GetExitCodeProcess(m_process, &exitCode);
-    return {exitCode, WithoutCarriageReturns(output), WithoutCarriageReturns(ReadBytes(m_folder / L"error"))};
+    return {exitCode, WithoutCarriageReturns(output), WithoutCarriageReturns(ReadBytes(m_folder / L"error")),
+            output};
 }
 
 } // namespace norvepa::test

@@ -13,12 +13,13 @@
 namespace norvepa::test
 {
 
-// Line ends are line feeds, whatever the program wrote.
+// Line ends are line feeds, whatever the program wrote; `rawOutput` is the output with those that it wrote.
 struct ProgramEnd
 {
     DWORD exitCode;
     std::string output;
     std::string error;
+    std::string rawOutput;
 };
 
 class ChildProgram

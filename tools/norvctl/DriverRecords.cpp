@@ -103,7 +103,7 @@ public:
     {
         if (!m_rest.empty())
         {
-            Refuse(fmt::format("has {} bytes behind its value", m_rest.size()));
+            Refuse(fmt::format("has bytes behind its value: {}", m_rest.size()));
         }
     }
 
@@ -153,7 +153,7 @@ std::vector<DriverRecord> DecodeDriverRecords(const std::string& subject, Bytes 
         const std::size_t length = rest.TakeLength(LengthBytes, "length");
         if (length > block.size())
         {
-            rest.Refuse(fmt::format("has {} bytes, of which {} are there", length, block.size()));
+            rest.Refuse(fmt::format("should have {} bytes, and {} are there", length, block.size()));
         }
         records.push_back(DecodeRecord({where, block.first(length)}));
         block = block.subspan(length);
