@@ -14,7 +14,8 @@ Result CopyOut(std::wstring_view text, wchar_t* buffer, std::uint32_t* length) n
         return PGSP_ERR_BUFFER_TOO_SHORT;
     }
 
-    *std::copy(text.begin(), text.end(), buffer) = L'\0';
+    // Up to a terminator of its own, if a text should hold one: what lies behind isn't the buffer's text.
+    *std::copy(text.begin(), std::find(text.begin(), text.end(), L'\0'), buffer) = L'\0';
     return PGSP_OK;
 }
 

@@ -20,6 +20,17 @@ TEST(CopyOut, CopiesATextWithItsTerminatorIntoOneCharacterMore)
     EXPECT_EQ(buffer.length, 3U);
 }
 
+TEST(CopyOut, EndsAtATerminatorOfTheTextsOwn)
+{
+    wchar_t buffer[] = L"######";
+    std::uint32_t length = 6;
+
+    EXPECT_EQ(CopyOut({L"a\0bc", 4}, buffer, &length), PGSP_OK);
+
+    EXPECT_EQ(std::wstring_view(buffer, 6), std::wstring_view(L"a\0####", 6));
+    EXPECT_EQ(length, 4U);
+}
+
 TEST(CopyOut, TellsTheLengthNeededWhenExactlyThatIsOffered)
 {
     OutputBuffer buffer(3);
