@@ -59,9 +59,10 @@ bool Document::Load(const std::wstring& file)
 
 bool Document::LoadBytes(std::string_view bytes)
 {
+    // Not by Attach(), which takes a reference of its own in MinGW-w64's form of the class.
     ComPtr<IStream> stream;
-    stream.Attach(
-        SHCreateMemStream(reinterpret_cast<const BYTE*>(bytes.data()), static_cast<UINT>(bytes.size())));
+    *stream.GetAddressOf() =
+        SHCreateMemStream(reinterpret_cast<const BYTE*>(bytes.data()), static_cast<UINT>(bytes.size()));
     if (!stream)
     {
         throw std::bad_alloc();
