@@ -31,11 +31,6 @@ XmlContent Rights(std::wstring_view enableDelete, std::wstring_view hidden)
                                 XmlContent().Bool(L"enable_delete", enableDelete).Bool(L"hidden", hidden));
 }
 
-std::wstring CurrentFolder::logDevice(const std::wstring& fileName) const
-{
-    return m_folder / (L"data\\LogDevices\\" + fileName + L".xml");
-}
-
 HeldElsewhere::HeldElsewhere(const StoreRoots& roots, const std::wstring& path, Sharing sharing)
     : m_holder(L"file_holder.exe", roots.registry())
 {

@@ -4,11 +4,11 @@
 // and who is told.
 
 #include "exports_device/SetScene.h"
+#include "support/CurrentFolder.h"
 #include "support/OutputBuffer.h"
 #include "support/Peer.h"
 
 #include <cstdint>
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,23 +29,6 @@ inline constexpr std::uint32_t TemporaryNameRoom = 28;
 
 // A section Ndi that says whether a log device may be removed and whether it is hidden.
 [[nodiscard]] XmlContent Rights(std::wstring_view enableDelete, std::wstring_view hidden);
-
-// The current folder of this process, that of the object for as long as it lives.
-class CurrentFolder
-{
-public:
-    CurrentFolder() { std::filesystem::current_path(m_folder.path()); }
-    CurrentFolder(const CurrentFolder&) = delete;
-    CurrentFolder& operator=(const CurrentFolder&) = delete;
-    ~CurrentFolder() { std::filesystem::current_path(m_before); }
-
-    // Where log devices lie when paths are relative to it.
-    [[nodiscard]] std::wstring logDevice(const std::wstring& fileName) const;
-
-private:
-    const std::filesystem::path m_before = std::filesystem::current_path();
-    const TemporaryFolder m_folder;
-};
 
 // What others may do with a file that somebody has open.
 enum class Sharing
