@@ -176,3 +176,6 @@ run norvctl data list Kesselhaus --subfolder ParameterData
 say 'Tracing is switched off again; what the first calls have left'
 run norvctl trace off
 iconv -f CP1252 -t UTF-8 "$store/trace/Demo1.TRC" | sed -n '1,18p'
+
+say 'What the driver of the new log device receives: what its Load names, with the baud rate that was applied'
+run norvctl device driver-read 'Mischer Süd'

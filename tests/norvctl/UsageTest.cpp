@@ -77,6 +77,13 @@ INSTANTIATE_TEST_SUITE_P(
         Misuse{"TextInDots",
                {L"board", L"text", L"a", L"b", L"--language", L".."},
                "a language has two letters"},
+        Misuse{"DriverReadOfNothing", {L"device", L"driver-read"}, "DEVICE is required"},
+        Misuse{"DriverReadOfTwo", {L"device", L"driver-read", L"a", L"b"}, "not expected: b"},
+        Misuse{"XmlOfNoDevice", {L"device", L"xml"}, "DEVICE is required"},
+        Misuse{"XmlOfNoName", {L"name", L"xml"}, "NAME is required"},
+        Misuse{"XmlOfNoBoard", {L"board", L"xml"}, "BOARD is required"},
+        Misuse{"XmlOfNoTemplate", {L"template", L"xml"}, "TEMPLATE is required"},
+        Misuse{"XmlOfNoProtocol", {L"protocol", L"xml"}, "PROTOCOL is required"},
         Misuse{"TemplateAlone", {L"template"}, "A subcommand is required"},
         Misuse{"BusparamsWithoutSpeed", {L"device", L"busparams", L"a"}, "BAUD is required"},
         Misuse{"ProfileOfNothing", {L"device", L"profile"}, "DEVICE is required"},
@@ -133,12 +140,13 @@ TEST(NorvctlHelp, NamesEveryVerb)
                 AllOf(HasSubstr("name"), HasSubstr("template"), HasSubstr("settings"), HasSubstr("data"),
                       HasSubstr("watch"), HasSubstr("trace"), HasSubstr("version")));
     EXPECT_THAT(names, AllOf(HasSubstr("list"), HasSubstr("show"), HasSubstr("create"), HasSubstr("delete"),
-                             HasSubstr("get"), HasSubstr("set"), HasSubstr("unset")));
+                             HasSubstr("get"), HasSubstr("set"), HasSubstr("unset"), HasSubstr("xml")));
     EXPECT_THAT(devices, AllOf(HasSubstr("create"), HasSubstr("copy"), HasSubstr("delete"), HasSubstr("edit"),
                                HasSubstr("ndi"), HasSubstr("text"), HasSubstr("profile"),
-                               HasSubstr("busparams"), HasSubstr("choices"), HasSubstr("describe")));
+                               HasSubstr("busparams"), HasSubstr("choices"), HasSubstr("describe"),
+                               HasSubstr("driver-read"), HasSubstr("xml")));
     EXPECT_THAT(templates, AllOf(HasSubstr("list"), HasSubstr("show"), HasSubstr("get"), HasSubstr("set"),
-                                 HasSubstr("text")));
+                                 HasSubstr("text"), HasSubstr("xml")));
     EXPECT_THAT(settings, AllOf(HasSubstr("get"), HasSubstr("set")));
     EXPECT_THAT(data, AllOf(HasSubstr("list"), HasSubstr("get"), HasSubstr("set"), HasSubstr("unset")));
     EXPECT_THAT(traces, AllOf(HasSubstr("status"), HasSubstr("on"), HasSubstr("off")));
