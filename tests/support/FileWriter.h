@@ -41,7 +41,7 @@ public:
         }
     }
 
-    void SetLength(std::int64_t length) const // in bytes; what is added takes no room on the disk
+    void SetLength(std::int64_t length) const // in bytes; nothing is written for what is added
     {
         LARGE_INTEGER end;
         end.QuadPart = length;
