@@ -6,7 +6,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
+#include <cstddef>
 #include <cwchar>
 #include <string_view>
 
@@ -103,13 +103,13 @@ private:
 
 Result HandOut(std::span<const std::byte> records, std::uint8_t** outBuffer, std::uint32_t* outLength)
 {
-    void* const block = GlobalAlloc(GMEM_FIXED, records.size());
+    auto* const block = static_cast<std::byte*>(GlobalAlloc(GMEM_FIXED, records.size()));
     if (block == nullptr)
     {
         return PGSP_ERR_DRIVER_BUFFER;
     }
-    std::memcpy(block, records.data(), records.size());
-    *outBuffer = static_cast<std::uint8_t*>(block);
+    std::copy(records.begin(), records.end(), block); // which may be none, and from nowhere
+    *outBuffer = reinterpret_cast<std::uint8_t*>(block);
     *outLength = static_cast<std::uint32_t>(records.size());
     return PGSP_OK;
 }
