@@ -6,22 +6,11 @@
 #include "support/ReceivedRecords.h"
 #include "support/XmlFiles.h"
 
-#include <cstdint>
 #include <gmock/gmock.h>
 #include <string>
 
 namespace norvepa::test
 {
-
-// What a read hands out, with marks in it that a failure has to leave alone.
-struct HandedOut
-{
-    std::uint8_t mark = 0;
-    std::uint8_t* block = &mark;
-    std::uint32_t length = 77;
-
-    [[nodiscard]] bool isUntouched() const { return block == &mark && length == 77; }
-};
 
 class BuildScene : public testing::Test
 {

@@ -24,6 +24,16 @@ struct ReceivedRecord
 
 using ReceivedRecords = std::vector<ReceivedRecord>;
 
+// What a read hands out, with marks in it that a failure has to leave alone.
+struct HandedOut
+{
+    std::uint8_t mark = 0;
+    std::uint8_t* block = &mark;
+    std::uint32_t length = 77;
+
+    [[nodiscard]] bool isUntouched() const { return block == &mark && length == 77; }
+};
+
 // Records as they are expected.
 [[nodiscard]] ReceivedRecord BoolRecord(std::wstring name, std::uint32_t value);
 [[nodiscard]] ReceivedRecord IntRecord(std::wstring name, std::int32_t value);
