@@ -11,8 +11,6 @@ namespace norvepa::test
 namespace
 {
 
-using testing::IsEmpty;
-
 // All of them leave the outputs alone, which is seen by ResultOf.
 class DriverBuildFailures : public BuildScene
 {
@@ -127,74 +125,6 @@ TEST_F(DriverBuildFailures, WithoutABlockToHandOutTheReadFails)
     EXPECT_EQ(request->flags, static_cast<UINT>(GMEM_FIXED));
     EXPECT_EQ(request->size, 12U);
     request.reset();
-}
-
-// Whatever isn't read by its bytes gives what the engine tells, and that is what its form for reading by the
-// bytes would give.
-class DriverOtherDocuments : public BuildScene
-{
-protected:
-    [[nodiscard]] static ReceivedRecords BuildRaw(std::string_view raw)
-    {
-        return BuildFile(LogDeviceFile(XmlContent().Raw(raw)));
-    }
-};
-
-constexpr std::string_view LoadA = "<Load><s>A</s></Load>";
-
-TEST_F(DriverOtherDocuments, GiveTheTextAroundACommentAndAnInstruction)
-{
-    EXPECT_THAT(BuildRaw("<A><Parameter><Name>a<!-- x -->b</Name><Value>1<?x y?>2</Value></Parameter></A>"
-                         "<Load><s>A<!-- x --></s></Load>"),
-                testing::ElementsAre(TextRecord(L"ab", L"12")));
-}
-
-TEST_F(DriverOtherDocuments, GiveTheTextOfCData)
-{
-    EXPECT_THAT(BuildRaw("<A><Parameter><Name>n</Name><Value>1<![CDATA[<2>]]>3</Value></Parameter></A>" +
-                         std::string(LoadA)),
-                testing::ElementsAre(TextRecord(L"n", L"1<2>3")));
-}
-
-TEST_F(DriverOtherDocuments, GiveTheCharactersThatReferencesStandFor)
-{
-    EXPECT_THAT(BuildRaw("<A><Parameter><Name>&#220;&#x62;</Name><Value>a&#x9;b</Value></Parameter></A>" +
-                         std::string(LoadA)),
-                testing::ElementsAre(TextRecord(L"\u00DCb", L"a\tb")));
-}
-
-TEST_F(DriverOtherDocuments, GiveTheTextOfElementsWithinAText)
-{
-    EXPECT_THAT(BuildRaw("<A><ParameterInt><Name>a<b>c</b></Name><Value>1<b>2</b></Value></ParameterInt></A>"
-                         "<Load><s><b>A</b></s></Load>"),
-                testing::ElementsAre(IntRecord(L"ac", 12)));
-}
-
-TEST_F(DriverOtherDocuments, GiveTheParametersOfParametersIfTheyAreNamed)
-{
-    EXPECT_THAT(BuildRaw("<A><Parameter><Name>a</Name><ParameterInt><Value>2</Value></ParameterInt>"
-                         "</Parameter></A><Load><s>Parameter</s><s>A</s></Load>"),
-                testing::ElementsAre(IntRecord(L"", 2), TextRecord(L"a", L"2")));
-}
-
-TEST_F(DriverOtherDocuments, GiveAWordWithAPrefixForAnotherWord)
-{
-    const std::string file = XmlFile(L"d", {{L"xmlns:x", L"urn:x"}},
-                                     XmlContent()
-                                         .Element(L"x:A", XmlContent().Int(L"n", L"1"))
-                                         .Element(L"A", XmlContent().Entry(L"x:ParameterInt", L"n", L"2"))
-                                         .Load({L"A"}));
-
-    EXPECT_THAT(BuildFile(file), IsEmpty());
-    EXPECT_THAT(BuildFile(ForTheEngine(file)), IsEmpty());
-}
-
-TEST_F(DriverOtherDocuments, GiveNothingOfTheRoot)
-{
-    const std::string file = XmlFile(L"A", {}, XmlContent().Int(L"n", L"1").Load({L"A"}));
-
-    EXPECT_THAT(BuildFile(file), IsEmpty());
-    EXPECT_THAT(BuildFile(ForTheEngine(file)), IsEmpty());
 }
 
 } // namespace
