@@ -105,5 +105,47 @@ TEST(Lasting, HasOneWinnerWhenManyPublishAtOnce)
     }
 }
 
+TEST(Lasting, DestroysItsThingWhenItIsToLetGo)
+{
+    Lasting<Thing> lasting;
+    Thing thing = std::make_shared<int>(1);
+    const std::weak_ptr<int> watch = thing;
+    lasting.Publish(std::move(thing));
+
+    lasting.LetGo();
+
+    EXPECT_TRUE(watch.expired());
+    EXPECT_EQ(lasting.Get(), nullptr);
+}
+
+TEST(Lasting, HoldsWhatIsPublishedAfterItHasLetGo)
+{
+    Lasting<Thing> lasting;
+    lasting.Publish(std::make_shared<int>(1));
+    lasting.LetGo();
+    Thing second = std::make_shared<int>(2);
+    const std::weak_ptr<int> watch = second;
+
+    lasting.Publish(std::move(second));
+
+    ASSERT_NE(lasting.Get(), nullptr);
+    EXPECT_EQ(**lasting.Get(), 2);
+    lasting.LetGo();
+    EXPECT_TRUE(watch.expired());
+}
+
+TEST(Lasting, LetsGoOfNothingWhenItIsEmpty)
+{
+    Lasting<Thing> lasting;
+
+    lasting.LetGo();
+    EXPECT_EQ(lasting.Get(), nullptr);
+    lasting.Publish(std::make_shared<int>(1));
+    lasting.LetGo();
+    lasting.LetGo();
+
+    EXPECT_EQ(lasting.Get(), nullptr);
+}
+
 } // namespace
 } // namespace norvepa::win

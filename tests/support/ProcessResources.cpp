@@ -1,0 +1,188 @@
+#include "support/ProcessResources.h"
+
+#include <windows.h>
+#include <tlhelp32.h>
+
+#include <algorithm>
+#include <ostream>
+#include <stdexcept>
+
+namespace norvepa::test
+{
+
+namespace
+{
+
+// What NtQuerySystemInformation tells of every handle of the machine.
+struct HandleEntry
+{
+    ULONG processId;
+    BYTE kind;
+    BYTE flags;
+    USHORT handle;
+    void* object;
+    ACCESS_MASK access;
+};
+
+struct HandleTable
+{
+    ULONG count;
+    HandleEntry entries[1]; // and more, behind
+};
+
+constexpr ULONG SystemHandles = 16;
+constexpr SIZE_T RoomForHandles = SIZE_T{4} << 20;
+
+// Pages of the system's own, so that none of the heaps changes.
+class Pages
+{
+public:
+    explicit Pages(SIZE_T bytes)
+        : m_pages(VirtualAlloc(nullptr, bytes, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE))
+    {
+    }
+    Pages(const Pages&) = delete;
+    Pages& operator=(const Pages&) = delete;
+    ~Pages() { VirtualFree(m_pages, 0, MEM_RELEASE); }
+
+    [[nodiscard]] void* get() const { return m_pages; }
+
+private:
+    void* m_pages;
+};
+
+void CountHandles(ProcessResources& resources)
+{
+    using Query = LONG WINAPI(ULONG, void*, ULONG, ULONG*);
+    static Query* const query = reinterpret_cast<Query*>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQuerySystemInformation")));
+
+    const Pages pages(RoomForHandles);
+    ULONG used = 0;
+    if (query == nullptr || query(SystemHandles, pages.get(), static_cast<ULONG>(RoomForHandles), &used) != 0)
+    {
+        throw std::runtime_error("the handles can't be counted");
+    }
+    const auto* const table = static_cast<const HandleTable*>(pages.get());
+    std::for_each_n(table->entries, table->count, [&](const HandleEntry& entry) {
+        if (entry.processId == GetCurrentProcessId())
+        {
+            ++resources.handles.at(entry.kind);
+        }
+    });
+}
+
+void CountBlocks(HANDLE heap, ProcessResources& resources)
+{
+    PROCESS_HEAP_ENTRY entry{};
+    HeapLock(heap);
+    while (HeapWalk(heap, &entry) != FALSE)
+    {
+        if ((entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0)
+        {
+            ++resources.heapBlocks;
+            resources.heapBytes += entry.cbData;
+        }
+    }
+    HeapUnlock(heap);
+}
+
+void CountHeaps(ProcessResources& resources)
+{
+    std::array<HANDLE, 64> heaps{};
+    resources.heaps = GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data());
+    if (resources.heaps > heaps.size())
+    {
+        throw std::runtime_error("more heaps than expected");
+    }
+    std::for_each_n(heaps.begin(), resources.heaps, [&](HANDLE heap) { CountBlocks(heap, resources); });
+}
+
+std::size_t CountViews()
+{
+    std::size_t views = 0;
+    MEMORY_BASIC_INFORMATION pages{};
+    for (auto* at = static_cast<const char*>(nullptr); VirtualQuery(at, &pages, sizeof pages) != 0;
+         at = static_cast<const char*>(pages.BaseAddress) + pages.RegionSize)
+    {
+        const bool isMapped = pages.Type == MEM_MAPPED || pages.Type == MEM_IMAGE;
+        views += isMapped && pages.BaseAddress == pages.AllocationBase ? 1 : 0;
+    }
+    return views;
+}
+
+// Takes all that are left, and gives them back.
+template <typename Take, typename GiveBack>
+std::size_t CountFree(DWORD none, const Take& take, const GiveBack& giveBack)
+{
+    std::array<DWORD, 8192> taken{};
+    std::size_t count = 0;
+    while (count < taken.size() && (taken.at(count) = take()) != none)
+    {
+        ++count;
+    }
+    std::for_each_n(taken.begin(), count, giveBack);
+    return count;
+}
+
+std::size_t CountFreeTlsIndices()
+{
+    return CountFree(TLS_OUT_OF_INDEXES, TlsAlloc, TlsFree);
+}
+
+std::size_t CountFreeFlsIndices()
+{
+    return CountFree(
+        FLS_OUT_OF_INDEXES, [] { return FlsAlloc(nullptr); }, FlsFree);
+}
+
+} // namespace
+
+std::size_t CountThreads()
+{
+    const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0);
+    if (snapshot == INVALID_HANDLE_VALUE)
+    {
+        throw std::runtime_error("the threads can't be counted");
+    }
+    std::size_t threads = 0;
+    THREADENTRY32 entry{};
+    entry.dwSize = sizeof entry;
+    for (BOOL isThere = Thread32First(snapshot, &entry); isThere != FALSE;
+         isThere = Thread32Next(snapshot, &entry))
+    {
+        threads += entry.th32OwnerProcessID == GetCurrentProcessId() ? 1 : 0;
+    }
+    CloseHandle(snapshot);
+    return threads;
+}
+
+ProcessResources CountProcessResources()
+{
+    ProcessResources resources;
+    resources.freeTlsIndices = CountFreeTlsIndices();
+    resources.freeFlsIndices = CountFreeFlsIndices();
+    resources.threads = CountThreads();
+    resources.views = CountViews();
+    CountHandles(resources);
+    CountHeaps(resources);
+    return resources;
+}
+
+void PrintTo(const ProcessResources& resources, std::ostream* out)
+{
+    *out << "handles";
+    for (std::size_t kind = 0; kind < resources.handles.size(); ++kind)
+    {
+        if (resources.handles.at(kind) != 0)
+        {
+            *out << " " << resources.handles.at(kind) << " of kind " << kind << ",";
+        }
+    }
+    *out << " threads " << resources.threads << ", heaps " << resources.heaps << ", blocks "
+         << resources.heapBlocks << " of " << resources.heapBytes << " bytes, views " << resources.views
+         << ", free TLS indices " << resources.freeTlsIndices << ", free FLS indices "
+         << resources.freeFlsIndices;
+}
+
+} // namespace norvepa::test
