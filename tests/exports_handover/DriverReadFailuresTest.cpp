@@ -11,7 +11,7 @@ namespace norvepa::test
 namespace
 {
 
-// All leave the outputs alone, which is seen by ResultOf. Each is told although all that follow would fail too.
+// All leave the outputs alone, which is seen by ResultOf. Each is told although what follows would fail too.
 class DriverReadFailures : public DriverReadScene
 {
 protected:

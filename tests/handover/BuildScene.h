@@ -15,8 +15,8 @@ namespace norvepa::test
 class BuildScene : public testing::Test
 {
 protected:
-    // The records of a document with this content. It is built twice, once so that it is read by its bytes and
-    // once so that the engine is asked, and both ways must give the same.
+    // The records of a document with this content. It is built twice, once so that it is read by its bytes
+    // and once so that the engine is asked, and both ways must give the same.
     [[nodiscard]] static ReceivedRecords Build(const XmlContent& content);
 
     // What its build answers; a failure must leave the outputs alone.

@@ -11,8 +11,8 @@ namespace
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// Documents that aren't read by their bytes, where the engine has to say what their texts are, and two that look
-// like others.
+// Documents that aren't read by their bytes, where the engine has to say what their texts are, and two that
+// look like others.
 class DriverOtherDocuments : public BuildScene
 {
 protected:

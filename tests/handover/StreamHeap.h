@@ -1,8 +1,8 @@
 #pragma once
 
 // What a stream of records asks of the C heap, seen and, where a test wants it, refused. A block that grows
-// always moves, and what it leaves is overwritten. Seen is one stream, made while the object lives; one object
-// at a time.
+// always moves, and what it leaves is overwritten. Seen is one stream, made while the object lives; one
+// object at a time.
 
 #include "support/ImportHook.h"
 

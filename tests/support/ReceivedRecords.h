@@ -42,8 +42,8 @@ struct HandedOut
 // Throws for a stream that isn't one of whole and sound records.
 [[nodiscard]] ReceivedRecords TakeApart(std::span<const std::uint8_t> stream);
 
-// The same of a block that a read has handed out, which is given back. Throws also for a block of another size,
-// and for one that the system doesn't take.
+// The same of a block that a read has handed out, which is given back. Throws also for a block of another
+// size, and for one that the system doesn't take.
 [[nodiscard]] ReceivedRecords TakeOver(std::uint8_t* block, std::uint32_t length);
 
 std::ostream& operator<<(std::ostream& stream, const ReceivedRecord& record);

@@ -1,6 +1,6 @@
 // A second process that has files open: each line names one, which it holds until it ends. Others may read it
-// meanwhile, unless "alone|" stands in front of the path. It is open for reading, or with "writing|" in front of
-// the path for writing.
+// meanwhile, unless "alone|" stands in front of the path. It is open for reading, or with "writing|" in front
+// of the path for writing.
 
 #include "support/FileWriter.h"
 #include "support/OpenFile.h"
