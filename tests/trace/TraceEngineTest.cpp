@@ -1,6 +1,7 @@
 #include "trace/TraceEngine.h"
 
 #include "EventLogEntries.h"
+#include "InstalledEngine.h"
 #include "TracePeer.h"
 #include "TraceScene.h"
 #include "support/ImportHook.h"
@@ -8,10 +9,8 @@
 
 #include <windows.h>
 
-#include <filesystem>
 #include <gmock/gmock.h>
 #include <ostream>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -29,41 +28,14 @@ using testing::IsEmpty;
 class TraceEngineTest : public testing::Test
 {
 protected:
-    TraceEngineTest()
-    {
-        test::MakeFolders(commonFiles());
-        test::SetCommonProgramFiles(commonFiles());
-        SetEnvironmentVariableW(L"NORV_TEST_ENGINE_LOG", log().c_str());
-        SetResults(L"0", L"0");
-    }
-
-    // The stand-in, whole or with an export missing, where the library is looked for.
-    void Install(const std::wstring& variant) const
-    {
-        std::wstring program(1024, L'\0');
-        program.resize(GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
-        const auto from =
-            std::filesystem::path(program).replace_filename(L"trace_engine_" + variant + L".dll");
-        test::MakeFolders(std::filesystem::path(libraryPath()).parent_path().wstring());
-        std::filesystem::copy_file(from, libraryPath());
-    }
+    void Install(const std::wstring& variant) const { m_engine.Install(variant); }
 
     static void SetResults(const wchar_t* open, const wchar_t* write)
     {
-        SetEnvironmentVariableW(L"NORV_TEST_ENGINE_OPEN", open);
-        SetEnvironmentVariableW(L"NORV_TEST_ENGINE_WRITE", write);
+        test::InstalledEngine::SetResults(open, write);
     }
 
-    [[nodiscard]] std::vector<std::string> calls() const
-    {
-        std::vector<std::string> all;
-        std::istringstream content(test::Exists(log()) ? test::ReadBytes(log()) : "");
-        for (std::string line; std::getline(content, line);)
-        {
-            all.push_back(line.back() == '\r' ? line.substr(0, line.size() - 1) : line);
-        }
-        return all;
-    }
+    [[nodiscard]] std::vector<std::string> calls() const { return m_engine.calls(); }
 
     [[nodiscard]] std::string openCall() const
     {
@@ -71,17 +43,13 @@ protected:
                "\\Marvolt\\norvdos\\meta\\trace\\Settings\\,0,1.0.0.0";
     }
 
-    [[nodiscard]] std::wstring commonFiles() const { return m_scene.folder() / L"common"; }
-    [[nodiscard]] std::wstring libraryPath() const
-    {
-        return commonFiles() + L"\\Marvolt\\Automation\\TraceEngine\\bin\\NorvTraceEngine64X.dll";
-    }
+    [[nodiscard]] std::wstring commonFiles() const { return m_engine.commonFiles(); }
+    [[nodiscard]] std::wstring libraryPath() const { return m_engine.libraryPath(); }
     [[nodiscard]] TraceScene& scene() { return m_scene; }
 
 private:
-    [[nodiscard]] std::wstring log() const { return m_scene.folder() / L"calls"; }
-
     TraceScene m_scene;
+    test::InstalledEngine m_engine{m_scene.folder()};
 };
 
 TEST_F(TraceEngineTest, IsOpenedWithTheFirstLine)
