@@ -823,7 +823,7 @@ int32_t LogDeviceGetParamDescBL(const wchar_t* LogDevice, const wchar_t* Paramet
  *                              set, for a name whose escaped form has 260 characters or more
  * PGSP_ERR_NO_MORE_ITEMS       nothing is set: at index 0 there is no such file, or it can't be read; else no
  *                              transfer is under way, or it has no such piece, and is over
- * PGSP_ERR_INVALID_PARAMETERS  name, buffer or bufferLen is null, or the name is empty
+ * PGSP_ERR_INVALID_PARAMETERS  name, buffer or bufferLen is null, or the name is empty or "*" alone
  *
  * A reader who stops half way leaves the copy behind until the same client asks for index 0 of the same file, or
  * until the library is unloaded.
@@ -836,7 +836,7 @@ int32_t LogDeviceGetXmlBL(uint32_t clientId, uint16_t kind, const wchar_t* name,
  * parameters of the sections that its Load element names are written as records, in the order of Load. Needs COM
  * on the calling thread.
  *
- *   LogDevice  in   the log device
+ *   LogDevice  in   the log device; as a whole, so that neither a "*" nor a backslash in it means anything
  *   outBuffer  out  the records; to be released by the caller with GlobalFree
  *   outLength  out  their length in bytes; 0 when the sections named have no parameters
  *

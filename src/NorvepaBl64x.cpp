@@ -2,6 +2,9 @@
 
 #include "ExceptionReserve.h"
 #include "ModuleSecurity.h"
+#include "handover/norvepaFileCache.h"
+#include "meta/CachedMetaFile.h"
+#include "meta/cEpaBlCache.h"
 #include "meta/cMetaFiles.h"
 #include "norvepa.h"
 #include "notify/NotifyRegistration.h"
@@ -44,10 +47,14 @@ namespace
 
 CNorvepaBl64xApp theApp;
 
-// What the module would otherwise leave behind in a process that goes on without it. The caches go by
-// themselves, when the run-time library ends the static objects behind this.
+// What the module would otherwise leave behind in a process that goes on without it, the youngest first.
 void GiveBack() noexcept
 {
+    FreeDirectoryCache();
+    FreeConstraints();
+    FreeFileCache();
+    MetaFreeAnswers();
+    MetaFreeDocuments();
     TraceEnd();
     moduleSecurity.Free();
     FreeExceptionReserve();
@@ -70,7 +77,7 @@ BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID processEnds)
         return norvepa::theApp.InitInstance();
     }
     // A process that ends takes everything along. Its other threads have been stopped wherever they were: no lock
-    // is waited for, and nothing that they may have held is touched.
+    // is waited for, and nothing that they may have been changing is touched.
     if (reason == DLL_PROCESS_DETACH && processEnds == nullptr)
     {
         norvepa::theApp.ExitInstance();

@@ -18,20 +18,20 @@ namespace
 
 constexpr std::wstring_view NoSection = L"no_section"; // what no element is called
 
-using SectionWords = std::array<std::wstring_view, 2>;
+using SectionWords = std::array<std::wstring_view, 3>;
 
 // What an entry of the load list asks for.
 SectionWords WordsOf(std::wstring_view entry)
 {
     if (entry == L"Busparameter")
     {
-        return {L"LocalSettings", L"NetworkSettings"}; // and no element of that name
+        return {NoSection, L"LocalSettings", L"NetworkSettings"}; // and no element of its own name
     }
     if (entry == L"Bindings")
     {
-        return {L"Bindings", L"Subdevice"};
+        return {entry, L"Subdevice", NoSection};
     }
-    return {entry, NoSection};
+    return {entry, NoSection, NoSection};
 }
 
 // Writes the sections of an outline as they are asked for. What a parameter leaves out is what the one ahead of
@@ -75,7 +75,9 @@ private:
             }
             if (section.subdevice)
             {
-                m_name.insert(0, *section.subdevice + L'/'); // stays with a name that is carried over
+                // Stays with a name that is carried over, as far as a record shows it.
+                m_name.insert(0, *section.subdevice + L'/');
+                m_name.resize(std::min(m_name.size(), LongestRecordText));
             }
             if (const Result result = WriteRecord(parameter.type); result != PGSP_OK)
             {

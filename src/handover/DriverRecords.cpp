@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
+#include <limits>
 
 namespace norvepa
 {
@@ -10,19 +10,20 @@ namespace norvepa
 namespace
 {
 
-constexpr std::size_t LongestText = 260; // characters
-constexpr std::size_t FixedBytes = 6;    // of a record beside name and value
+constexpr std::size_t FixedBytes = 6; // of a record beside name and value
+constexpr std::uint8_t TypeBytes = 1;
 
-std::array<std::byte, 2> LittleEndian(std::size_t value) noexcept
+template <typename Number>
+std::span<const std::byte> BytesOf(const Number& number) noexcept
 {
-    return {static_cast<std::byte>(value & 0xFF), static_cast<std::byte>(value >> 8)};
+    return std::as_bytes(std::span(&number, 1));
 }
 
 } // namespace
 
 std::span<const std::byte> RecordText(std::wstring_view text) noexcept
 {
-    const std::size_t bytes = std::min(text.size(), LongestText) * sizeof(wchar_t);
+    const std::size_t bytes = std::min(text.size(), LongestRecordText) * sizeof(wchar_t);
     return std::as_bytes(std::span(text)).first(bytes & 0xFF);
 }
 
@@ -34,25 +35,22 @@ DriverRecords::DriverRecords() noexcept
 Result DriverRecords::Write(const DriverRecord& record)
 {
     const std::span<const std::byte> name = RecordText(record.name);
-    Result result = Put(LittleEndian(FixedBytes + name.size() + record.value.size()));
-    result = result == PGSP_OK ? PutByte(name.size()) : result;
-    result = result == PGSP_OK ? Put(name) : result;
-    result = result == PGSP_OK ? PutByte(sizeof record.type) : result;
-    result = result == PGSP_OK ? PutByte(static_cast<std::size_t>(record.type)) : result;
-    result = result == PGSP_OK ? PutByte(record.value.size()) : result;
-    result = result == PGSP_OK ? Put(record.value) : result;
-    if (result == PGSP_OK)
-    {
-        m_usedBytes += m_recordBytes;
-        m_recordBytes = 0;
-    }
-    return result;
-}
+    const auto recordLength = static_cast<std::uint16_t>(FixedBytes + name.size() + record.value.size());
+    const auto nameBytes = static_cast<std::uint8_t>(name.size());
+    const auto valueBytes = static_cast<std::uint8_t>(record.value.size());
+    const std::array fields{BytesOf(recordLength), BytesOf(nameBytes),  name,        BytesOf(TypeBytes),
+                            BytesOf(record.type),  BytesOf(valueBytes), record.value};
 
-Result DriverRecords::PutByte(std::size_t value)
-{
-    const auto byte = static_cast<std::byte>(value);
-    return Put(std::span(&byte, 1));
+    m_recordBytes = 0;
+    for (const std::span<const std::byte> field : fields)
+    {
+        if (const Result result = Put(field); result != PGSP_OK)
+        {
+            return result;
+        }
+    }
+    m_usedBytes += m_recordBytes;
+    return PGSP_OK;
 }
 
 // One byte more than the field has to be free.
@@ -80,7 +78,9 @@ Result DriverRecords::Put(std::span<const std::byte> field)
 Result DriverRecords::Grow() noexcept
 {
     ++m_blockCount;
-    void* const grown = std::realloc(m_buffer.get(), std::size_t{m_blockCount} * BlockBytes);
+    const std::uint64_t bytes = std::uint64_t{m_blockCount} * BlockBytes;
+    const bool isCountable = bytes <= std::numeric_limits<std::uint32_t>::max();
+    void* const grown = isCountable ? std::realloc(m_buffer.get(), bytes) : nullptr;
     if (grown == nullptr)
     {
         m_buffer.reset();

@@ -34,6 +34,9 @@ struct DriverRecord
     std::span<const std::byte> value; // at most 255 bytes
 };
 
+// Of a longer text a record shows nothing more. In characters.
+inline constexpr std::size_t LongestRecordText = 260;
+
 // As much of a text as its length in a record tells.
 [[nodiscard]] std::span<const std::byte> RecordText(std::wstring_view text) noexcept;
 
@@ -59,7 +62,6 @@ private:
     };
 
     [[nodiscard]] Result Put(std::span<const std::byte> field);
-    [[nodiscard]] Result PutByte(std::size_t value);
     [[nodiscard]] Result Grow() noexcept;
 
     std::unique_ptr<std::byte, Free> m_buffer; // of the C heap, which can make a block longer in place

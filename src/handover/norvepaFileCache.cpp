@@ -1,6 +1,7 @@
 #include "handover/norvepaFileCache.h"
 
 #include "meta/Published.h"
+#include "win/Undestroyed.h"
 
 #include <algorithm>
 #include <cstring>
@@ -22,8 +23,9 @@ using ItemList = std::vector<Item>; // in the order in which they were stored
 using FileCacheMap = std::map<std::uint32_t, ItemList>; // by the client's id
 
 // Ahead of the cache itself, which empties it when it goes.
-Published<FileCacheMap> fileCacheMap;
-norvepaFileCache fileCache;
+win::Undestroyed<Published<FileCacheMap>> clients;
+Published<FileCacheMap>& fileCacheMap = clients.get();
+win::Undestroyed<norvepaFileCache> fileCache;
 
 wchar_t AsciiLower(wchar_t character) noexcept
 {
@@ -152,7 +154,13 @@ catch (const std::bad_alloc&)
 
 norvepaFileCache& FileCache() noexcept
 {
-    return fileCache;
+    return fileCache.get();
+}
+
+void FreeFileCache() noexcept
+{
+    fileCache.Destroy();
+    clients.Destroy();
 }
 
 } // namespace norvepa

@@ -49,6 +49,9 @@ public:
 // The only one.
 [[nodiscard]] norvepaFileCache& FileCache() noexcept;
 
+// When the module goes.
+void FreeFileCache() noexcept;
+
 // The comparison of the cache's names: the ASCII letters fold, and no others.
 [[nodiscard]] bool SameFileName(std::wstring_view left, std::wstring_view right) noexcept;
 

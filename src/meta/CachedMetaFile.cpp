@@ -4,6 +4,7 @@
 #include "meta/GrowingList.h"
 #include "meta/Published.h"
 #include "trace/TraceStatement.h"
+#include "win/Undestroyed.h"
 
 #include <algorithm>
 #include <vector>
@@ -33,7 +34,8 @@ struct CachedMetaFile
 
 using FileList = std::vector<std::shared_ptr<CachedMetaFile>>;
 
-Published<FileList> cachedFiles;
+win::Undestroyed<Published<FileList>> files;
+Published<FileList>& cachedFiles = files.get();
 
 // Null when there is none. What is found stays for good: no file is ever taken out of the list.
 CachedMetaFile* FindFile(const FileList& list, std::wstring_view filePath)
@@ -109,6 +111,11 @@ void InsertConstraintToCachedMetaFile(std::wstring_view filePath, std::wstring_v
     {
         file->constraints.Append({std::wstring(param), std::wstring(constraint), value});
     }
+}
+
+void FreeConstraints() noexcept
+{
+    files.Destroy();
 }
 
 } // namespace norvepa

@@ -26,4 +26,7 @@ namespace norvepa
 void InsertConstraintToCachedMetaFile(std::wstring_view filePath, std::wstring_view param,
                                       std::wstring_view constraint, const std::optional<std::wstring>& value);
 
+// When the module goes.
+void FreeConstraints() noexcept;
+
 } // namespace norvepa

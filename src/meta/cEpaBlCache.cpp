@@ -1,6 +1,7 @@
 #include "meta/cEpaBlCache.h"
 
 #include "meta/Vocabulary.h"
+#include "win/Undestroyed.h"
 
 #include <algorithm>
 #include <utility>
@@ -14,7 +15,8 @@ namespace
 using Link = std::shared_ptr<const cEpaBlCache>;
 using CacheList = std::vector<Link>;
 
-Published<CacheList> cacheList;
+win::Undestroyed<Published<CacheList>> caches;
+Published<CacheList>& cacheList = caches.get();
 
 template <typename List> // constant or not
 auto FindFile(List& list, std::wstring_view filePath)
@@ -101,6 +103,11 @@ Result MetaCacheDropFile(std::wstring_view filePath)
         return true;
     });
     return result;
+}
+
+void MetaFreeAnswers() noexcept
+{
+    caches.Destroy();
 }
 
 } // namespace norvepa

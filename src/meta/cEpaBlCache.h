@@ -58,4 +58,7 @@ Result MetaCacheStore(std::wstring_view filePath, std::wstring_view key, AnswerK
 // Forgets all answers of a file. PGSP_OK, or NotInCache when there were none.
 Result MetaCacheDropFile(std::wstring_view filePath);
 
+// When the module goes.
+void MetaFreeAnswers() noexcept;
+
 } // namespace norvepa

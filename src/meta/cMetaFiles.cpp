@@ -2,6 +2,7 @@
 
 #include "frame/FileNames.h"
 #include "frame/PathText.h"
+#include "win/Undestroyed.h"
 
 #include <algorithm>
 #include <memory>
@@ -16,7 +17,8 @@ namespace
 using Link = std::shared_ptr<const cMetaFiles>;
 using DocumentList = std::vector<Link>;
 
-Published<DocumentList> documentList;
+win::Undestroyed<Published<DocumentList>> documents;
+Published<DocumentList>& documentList = documents.get();
 
 auto FindLink(const DocumentList& list, std::wstring_view filePath)
 {
@@ -91,6 +93,11 @@ Result MetaDropDocument(std::wstring_view filePath)
 void MetaDropAllDocuments() noexcept
 {
     documentList.Clear();
+}
+
+void MetaFreeDocuments() noexcept
+{
+    documents.Destroy();
 }
 
 } // namespace norvepa

@@ -50,4 +50,7 @@ Result MetaDropDocument(std::wstring_view filePath);
 
 void MetaDropAllDocuments() noexcept;
 
+// When the module goes.
+void MetaFreeDocuments() noexcept;
+
 } // namespace norvepa

@@ -1,19 +1,29 @@
 #include "notify/DeviceIdIndex.h"
 
+#include "win/Undestroyed.h"
+
 #include <windows.h>
 
 namespace norvepa
 {
 
 constinit win::RecursiveMutex deviceIdMutex;
-DeviceIdIndex deviceIdIndex;
 
 namespace
 {
 
+win::Undestroyed<DeviceIdIndex> index;
+
 constexpr std::size_t ComparedCharacters = 260;
 
 } // namespace
+
+DeviceIdIndex& deviceIdIndex = index.get();
+
+void FreeDeviceIdIndex() noexcept
+{
+    index.Destroy();
+}
 
 bool DeviceIdIndex::Order::operator()(std::wstring_view left, std::wstring_view right) const noexcept
 {

@@ -54,6 +54,9 @@ private:
 
 // Held from before the watch is polled until the answer is copied. Recursive: answering enumerates.
 extern constinit win::RecursiveMutex deviceIdMutex;
-extern DeviceIdIndex deviceIdIndex;
+extern DeviceIdIndex& deviceIdIndex;
+
+// When the module goes.
+void FreeDeviceIdIndex() noexcept;
 
 } // namespace norvepa

@@ -5,6 +5,7 @@
 #include "trace/TraceStatement.h"
 #include "win/FileSystem.h"
 #include "win/Mutex.h"
+#include "win/Undestroyed.h"
 
 #include <windows.h>
 
@@ -24,7 +25,8 @@ constexpr std::size_t LogNames = 1;
 
 // One at a time: a poll, or the watch being set up or ended.
 constinit win::RecursiveMutex watchMutex;
-std::array<win::ChangeNotification, 2> watchHandles;
+win::Undestroyed<std::array<win::ChangeNotification, 2>> watch;
+std::array<win::ChangeNotification, 2>& watchHandles = watch.get();
 std::atomic<bool> watchActive{false}; // both handles are open
 
 std::wstring LogDeviceFolder(const std::wstring& dataFolder)
@@ -92,6 +94,13 @@ void deinitWatchDirectories()
         watchActive = false;
     }
     NORV_TRACE(source, TraceExit, "<< end");
+}
+
+void FreeDirectoryCache() noexcept
+{
+    watch.Destroy();
+    FreeDeviceIdIndex();
+    FreeListings();
 }
 
 namespace

@@ -18,4 +18,7 @@ extern constinit win::RecursiveMutex directoryMutex;
 void DropListing(const std::wstring& folder); // of this folder, compared as paths are
 void DropAllListings();
 
+// When the module goes.
+void FreeListings() noexcept;
+
 } // namespace norvepa

@@ -1,6 +1,7 @@
 #include "notify/NotifyRegistration.h"
 
 #include "frame/Text.h"
+#include "win/Undestroyed.h"
 
 #include <cstdint>
 #include <mutex>
@@ -10,7 +11,16 @@ namespace norvepa
 {
 
 constinit win::Mutex notifyRegisterMutex;
-std::unique_ptr<NotifyRegisterList> notifyRegisterList;
+
+namespace
+{
+
+// Emptied when the module goes, and not touched when the process ends.
+constinit win::Undestroyed<std::unique_ptr<NotifyRegisterList>> registerList;
+
+} // namespace
+
+constinit std::unique_ptr<NotifyRegisterList>& notifyRegisterList = registerList.get();
 
 template <std::size_t Width>
 bool TextField<Width>::Matches(std::wstring_view text) const noexcept

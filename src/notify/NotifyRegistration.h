@@ -53,7 +53,7 @@ struct NotifyRegistration
 using NotifyRegisterList = std::vector<std::unique_ptr<NotifyRegistration>>;
 
 extern constinit win::Mutex notifyRegisterMutex;
-extern std::unique_ptr<NotifyRegisterList> notifyRegisterList; // in the order of registration
+extern std::unique_ptr<NotifyRegisterList>& notifyRegisterList; // in the order of registration
 
 // Puts a record behind the others, and makes the list for the first. Under the mutex.
 void AddRegistration(std::unique_ptr<NotifyRegistration> registration);

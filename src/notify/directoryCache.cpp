@@ -6,6 +6,7 @@
 #include "notify/ListingCache.h"
 #include "trace/TraceStatement.h"
 #include "win/FileSystem.h"
+#include "win/Undestroyed.h"
 
 #include <algorithm>
 #include <array>
@@ -27,10 +28,12 @@ constexpr std::size_t ExtensionLength = 4; // of ".xml"
 // Under directoryMutex. An empty or missing listing isn't known, and is scanned for. `directoryClearings`
 // counts what has been dropped: a scan that began before the last clearing may have seen the folder as it
 // was, and is not stored.
-std::map<std::wstring, std::shared_ptr<const DirectoryListing>> directoryContent;
+using Listing = std::shared_ptr<const DirectoryListing>;
+win::Undestroyed<std::map<std::wstring, Listing>> listings;
+win::Undestroyed<const Listing> noListing(std::make_shared<const DirectoryListing>());
+std::map<std::wstring, Listing>& directoryContent = listings.get();
+const Listing& emptyListing = noListing.get();
 std::uint64_t directoryClearings = 0;
-
-const std::shared_ptr<const DirectoryListing> emptyListing = std::make_shared<const DirectoryListing>();
 
 // The known folder of this path, compared as paths are. Under directoryMutex.
 auto FindKnownFolder(const std::wstring& folder)
@@ -58,6 +61,12 @@ void DropAllListings()
 {
     ++directoryClearings;
     directoryContent.clear();
+}
+
+void FreeListings() noexcept
+{
+    listings.Destroy();
+    noListing.Destroy();
 }
 
 namespace

@@ -38,4 +38,7 @@ Result getDirectoryChange(const std::wstring& dataFolder);
 [[nodiscard]] Result getDirectoryContent(const std::wstring& folderPath, const std::wstring& dataFolder,
                                          std::shared_ptr<const DirectoryListing>& listing);
 
+// When the module goes: the watch, and all that it keeps listings and the index of identities for.
+void FreeDirectoryCache() noexcept;
+
 } // namespace norvepa

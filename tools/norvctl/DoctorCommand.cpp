@@ -1,0 +1,44 @@
+#include "Commands.h"
+#include "Doctor.h"
+
+namespace norvctl
+{
+
+namespace
+{
+
+constexpr int FoundWrong = 1; // the exit status
+
+Findings Examine()
+{
+    Findings findings;
+    const StoreFolders folders = CheckFolders(findings);
+    if (folders.schemas)
+    {
+        CheckSchemas(findings);
+    }
+    Catalogue catalogue(folders, findings);
+    CheckDevices(catalogue, folders, findings);
+    CheckNames(folders, findings);
+    return findings;
+}
+
+void Tell(const Report& report)
+{
+    const Findings findings = Examine();
+    report.Answer(findings.empty() ? "nothing is wrong" : AsLines(findings), AsArray(findings));
+    if (!findings.empty())
+    {
+        throw CLI::RuntimeError(FoundWrong);
+    }
+}
+
+} // namespace
+
+void AddDoctorCommand(CLI::App& app, const Report& report)
+{
+    app.add_subcommand("doctor", "look for all that is wrong in the store, and tell what to do about it")
+        ->callback([&report] { Tell(report); });
+}
+
+} // namespace norvctl

@@ -1,0 +1,65 @@
+#pragma once
+
+// Whether a log device would take a value, told without offering it: what the library checks ahead of a
+// change, from the words and the lists that the catalogue has for a parameter.
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace norvctl
+{
+
+// What begins the file names of boards and protocols.
+inline constexpr wchar_t BoardPrefix[] = L"Automation-OnlineAccess-BT-";
+inline constexpr wchar_t ProtocolPrefix[] = L"Automation-OnlineAccess-PT-";
+
+// What the catalogue says of a parameter; what it doesn't say is empty.
+struct ValueLimits
+{
+    bool areOfBoard = false; // the type is
+    std::wstring type, min, max, step, base, standard, section, map;
+};
+
+// Where a log device keeps a parameter.
+struct Place
+{
+    std::wstring section; // empty: wherever it is
+    std::wstring name;
+};
+
+// The check of all log devices that have a board and a protocol in common. A word of the board's wins over
+// the protocol's. Both files must be there.
+class ValueCheck
+{
+public:
+    // As a log device names them: its DeviceID and its CP_TYPE.
+    ValueCheck(const std::string& deviceId, const std::string& cpType);
+
+    // PGSP_OK, or the code with which LogDeviceSetValueBL would refuse the value.
+    [[nodiscard]] int32_t Check(const std::wstring& parameter, const std::wstring& value) const;
+
+    // False for a parameter that takes any value.
+    [[nodiscard]] bool HasLimits(const std::wstring& parameter) const;
+
+    [[nodiscard]] Place PlaceOf(const std::wstring& parameter) const;
+
+    // Parameters that both files tell of, with repetitions. A file tells of those ahead of the first one that
+    // has no default.
+    [[nodiscard]] const std::vector<std::wstring>& Parameters() const { return m_parameters; }
+
+private:
+    [[nodiscard]] const ValueLimits& LimitsOf(const std::wstring& parameter) const;
+    [[nodiscard]] ValueLimits ReadLimits(const std::wstring& parameter) const;
+    [[nodiscard]] std::wstring Word(const std::wstring& parameter, const wchar_t* word) const;
+    [[nodiscard]] bool IsBaudrate(const ValueLimits& limits, const std::wstring& value) const;
+    [[nodiscard]] bool IsTimeout(const ValueLimits& limits, const std::wstring& value) const;
+
+    std::wstring m_board; // the names of the files
+    std::wstring m_protocol;
+    std::vector<std::wstring> m_parameters;
+    mutable std::map<std::wstring, ValueLimits> m_limits; // by the parameter in small letters
+};
+
+} // namespace norvctl
