@@ -171,6 +171,17 @@ TEST_F(DriverBuildRecordsTest, OfBusparameterInAnotherCaseAreThoseOfAnElementCal
                 ElementsAre(TextRecord(L"busparameter", L"")));
 }
 
+// The word stands for whatever an entry doesn't ask for.
+TEST_F(DriverBuildRecordsTest, OfAnElementCalledNoSectionComeWithEveryEntry)
+{
+    const XmlContent content = Sections({L"A", L"Bindings", L"LocalSettings", L"no_section"});
+    const ReceivedRecord always = TextRecord(L"no_section", L"");
+
+    EXPECT_THAT(Build(XmlContent(content).Load({L"Busparameter", L"A", L"Bindings", L"no_section", L"gone"})),
+                ElementsAre(TextRecord(L"LocalSettings", L""), always, TextRecord(L"A", L""), always,
+                            TextRecord(L"Bindings", L""), always, always, always));
+}
+
 struct NumberText
 {
     std::wstring_view text;

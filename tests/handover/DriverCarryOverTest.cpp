@@ -1,5 +1,7 @@
 #include "handover/BuildScene.h"
 
+#include <algorithm>
+
 namespace norvepa::test
 {
 namespace
@@ -181,6 +183,27 @@ TEST_F(DriverSubdevices, ExtendTheNameThatIsCarriedOver)
     EXPECT_THAT(Build(XmlContent(content).Load({L"Bindings"})),
                 ElementsAre(IntRecord(L"X/a", 1), IntRecord(L"X/X/a", 9), IntRecord(L"X/X/X/a", 9),
                             IntRecord(L"Y/X/X/X/a", 9), IntRecord(L"Y/X/X/X/a", 9)));
+}
+
+TEST_F(DriverSubdevices, ExtendTheNameBeyondWhatARecordShows)
+{
+    const std::string nameless = XmlContent().Element(L"ParameterInt", OnlyValue(L"9")).utf8();
+    XmlContent parameters;
+    ReceivedRecords expected;
+    std::wstring name;
+    for (int parameter = 0; parameter < 300; ++parameter)
+    {
+        parameters.Raw(nameless);
+        name.insert(0, L"X/");
+        expected.push_back(IntRecord(name.substr(0, std::min<std::size_t>(name.size(), 260) % 128), 9));
+    }
+    expected.push_back(expected.back());
+
+    EXPECT_EQ(Build(XmlContent()
+                        .Subdevice(L"X", parameters)
+                        .Element(L"Bindings", XmlContent().Raw(nameless))
+                        .Load({L"Bindings"})),
+              expected);
 }
 
 TEST_F(DriverSubdevices, CutWithTheNameTheyExtend)
