@@ -1,6 +1,6 @@
 #include "NorvepaBl64x.h"
 
-#include "ExceptionReserve.h"
+#include "ExceptionMemory.h"
 #include "ModuleSecurity.h"
 #include "handover/norvepaFileCache.h"
 #include "meta/CachedMetaFile.h"
@@ -57,7 +57,7 @@ void GiveBack() noexcept
     MetaFreeDocuments();
     TraceEnd();
     moduleSecurity.Free();
-    FreeExceptionReserve();
+    FreeExceptionMemory();
 }
 
 } // namespace
@@ -74,6 +74,7 @@ BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID processEnds)
 {
     if (reason == DLL_PROCESS_ATTACH)
     {
+        norvepa::MakeExceptionMemory();
         return norvepa::theApp.InitInstance();
     }
     // A process that ends takes everything along. Its other threads have been stopped wherever they were: no lock
