@@ -35,8 +35,8 @@ bool IsAscii(std::string_view word) noexcept
     return std::all_of(word.begin(), word.end(), [](char byte) { return byte > 0; });
 }
 
-// Goes from tag to tag. Elements in unusual places, a parameter within a parameter, say, are more than one thing
-// to the engine's walk; they aren't read here.
+// Goes from tag to tag. Elements in unusual places, a parameter within a parameter, say, are more than one
+// thing to the engine's walk; they aren't read here.
 class TextWalk
 {
 public:
@@ -115,7 +115,7 @@ private:
         ++m_tags;
         if (m_open.empty())
         {
-            return Enter(Kind::Root, token);
+            return m_tags == 1 && Enter(Kind::Root, token);
         }
         const Open& parent = m_open.back();
         const std::string_view word = m_reader.word();

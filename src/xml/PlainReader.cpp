@@ -12,8 +12,6 @@ namespace norvepa
 namespace
 {
 
-constexpr std::string_view Whitespace = " \t\r\n";
-
 constexpr std::array<std::pair<std::string_view, wchar_t>, 5> References{
     {{"&lt;", L'<'}, {"&gt;", L'>'}, {"&amp;", L'&'}, {"&quot;", L'"'}, {"&apos;", L'\''}}};
 
@@ -24,7 +22,7 @@ bool IsForeign(char byte) noexcept
 
 bool IsSpace(char byte) noexcept
 {
-    return Whitespace.find(byte) != std::string_view::npos;
+    return byte == ' ' || byte == '\t' || byte == '\r' || byte == '\n';
 }
 
 // Takes bytes off the front of `rest` until one ends it.
@@ -122,15 +120,30 @@ bool PlainReader::SkipPrologue()
 {
     constexpr std::string_view mark = "\xEF\xBB\xBF";
     constexpr std::string_view declaration = "<?xml";
+    constexpr std::string_view zeroTag("<\0", 2);
 
     m_rest.remove_prefix(m_rest.starts_with(mark) ? mark.size() : 0);
-    if (!m_rest.starts_with(declaration))
+    if (m_rest.starts_with(declaration))
     {
-        return true;
+        return SkipDeclaration();
     }
-    const std::string_view declared = m_rest.substr(declaration.size());
-    const std::string_view encoding = FindAttribute(declared, "encoding").value_or("UTF-8");
-    return SkipPast("?>") && (encoding == "UTF-8" || encoding == "utf-8");
+    // In other encodings the first tag begins otherwise, or has a zero.
+    TakeUntil(m_rest, [](char byte) { return !IsSpace(byte); });
+    return m_rest.starts_with('<') && !m_rest.starts_with(zeroTag);
+}
+
+bool PlainReader::SkipDeclaration()
+{
+    const std::string_view begin = m_rest;
+    if (!SkipPast("?>"))
+    {
+        return false;
+    }
+    std::string_view attributes = begin.substr(0, begin.size() - m_rest.size());
+    const std::string_view word = TakeUntil(attributes, IsSpace);
+    const std::string_view encoding = FindAttribute(attributes, "encoding").value_or("UTF-8");
+    return word == "<?xml" && FindAttribute(attributes, "version") == "1.0" &&
+           (encoding == "UTF-8" || encoding == "utf-8");
 }
 
 bool PlainReader::SkipPast(std::string_view mark)
@@ -152,7 +165,7 @@ PlainReader::Token PlainReader::Read()
         }
         if (m_rest.starts_with("<!--"))
         {
-            m_isPlain = SkipPast("-->");
+            m_isPlain = SkipPast("<!--") && SkipPast("-->"); // which share no dash
         }
         else if (m_rest.starts_with("<!") || m_rest.starts_with("<?"))
         {
@@ -195,12 +208,18 @@ PlainReader::Token PlainReader::ReadBeginTag()
     tag.remove_suffix(isEmpty ? 1 : 0);
     m_word = TakeUntil(tag, IsSpace);
     m_attributes = tag;
-    m_isPlain = tag.find("xml:space") == std::string_view::npos;
+    // A prefix that isn't declared an engine may leave out.
+    m_isPlain = m_word.find(':') == std::string_view::npos && tag.find("xml:space") == std::string_view::npos;
     return !m_isPlain ? Token::NotPlain : isEmpty ? Token::EmptyTag : Token::BeginTag;
 }
 
 bool PlainReader::ReadAttribute(std::string_view name, std::optional<std::wstring>& text) const
 {
+    // Behind a prefix that isn't declared, an engine may take it for the one without.
+    if (m_attributes.find(std::string(":").append(name)) != std::string_view::npos)
+    {
+        return false;
+    }
     const auto value = FindAttribute(m_attributes, name);
     if (!value)
     {
@@ -213,7 +232,7 @@ bool PlainReader::ReadAttribute(std::string_view name, std::optional<std::wstrin
 bool PlainReader::ReadText(std::wstring& text)
 {
     const std::string_view bytes = TakeUntil(m_rest, [](char byte) { return byte == '<'; });
-    const bool isBlank = !bytes.empty() && bytes.find_first_not_of(Whitespace) == std::string_view::npos;
+    const bool isBlank = !bytes.empty() && std::all_of(bytes.begin(), bytes.end(), IsSpace);
     return !isBlank && m_rest.starts_with("</") && SkipPast(">") && AppendText(bytes, text);
 }
 

@@ -4,8 +4,9 @@
 // already: it costs a thirtieth of asking the engine node by node.
 //
 // What it would take an engine to read right isn't read here, and the reader says so: other encodings than
-// UTF-8, declarations, CDATA, instructions, white space rules of a document's own, references but the five that
-// XML knows; and in a text that is wanted, comments, elements, carriage returns, or nothing but white space.
+// UTF-8, document types, CDATA, instructions, elements with a prefix, white space rules of a document's own,
+// references but the five that XML knows; in a text that is wanted, comments, elements, carriage returns, or
+// nothing but white space; and an attribute that is wanted beside one of that name with a prefix.
 //
 // Callers may rely on: what is read is what the engine answers; no byte beyond the end is looked at, whatever
 // the bytes are. Callers must: ask the engine after NotPlain, or after a false. The bytes are lent.
@@ -34,7 +35,7 @@ public:
 
     [[nodiscard]] Token Read();
 
-    // Of the begin or empty tag that was read last. The word has its prefix.
+    // Of the begin or empty tag that was read last.
     [[nodiscard]] std::string_view word() const noexcept { return m_word; }
 
     // Adds the value of an attribute to `text`, which must be empty; it stays none when there is no such
@@ -46,6 +47,7 @@ public:
 
 private:
     [[nodiscard]] bool SkipPrologue();
+    [[nodiscard]] bool SkipDeclaration();
     [[nodiscard]] Token ReadBeginTag();
     [[nodiscard]] bool SkipPast(std::string_view mark);
 
