@@ -131,6 +131,14 @@ TEST_F(EngineOutOfMemoryTest, ThatWasToLoadAFileIsNotTakenForOneThatIsMalformed)
     }
 }
 
+TEST_F(EngineOutOfMemoryTest, ThatWasToLoadBytesIsNotTakenForBytesThatAreMalformed)
+{
+    for (const char* bytes : {"<r/>", "<r"})
+    {
+        WithEachEngineCallFailing([] {}, [&] { Drop(Empty().LoadBytes(bytes)); }, [](bool) {});
+    }
+}
+
 TEST_F(EngineOutOfMemoryTest, ThatWasToSaveIsToldFromAFileThatCannotBeSaved)
 {
     WatchedEngine engine;
