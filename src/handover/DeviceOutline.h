@@ -7,6 +7,8 @@
 
 #include "xml/Document.h"
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -25,8 +27,25 @@ enum class DriverType : std::uint8_t
     String = 2
 };
 
-// The type that an entry's element word stands for; none for any other element.
-[[nodiscard]] std::optional<DriverType> DriverTypeOf(std::wstring_view word) noexcept;
+struct EntryWord
+{
+    std::string_view word;
+    DriverType type;
+};
+
+inline constexpr std::array<EntryWord, 3> EntryWords{{{"Parameter", DriverType::String},
+                                                      {"ParameterInt", DriverType::Integer},
+                                                      {"ParameterBool", DriverType::Boolean}}};
+
+// The type that an entry's element word stands for; none for any other element. Of either width, since one way
+// to an outline meets it in each.
+template <typename Character>
+[[nodiscard]] std::optional<DriverType> DriverTypeOf(std::basic_string_view<Character> word) noexcept
+{
+    const auto row = std::ranges::find_if(
+        EntryWords, [=](const EntryWord& each) { return std::ranges::equal(each.word, word); });
+    return row == EntryWords.end() ? std::nullopt : std::optional(row->type);
+}
 
 struct DeviceOutline
 {
@@ -66,7 +85,7 @@ struct DeviceOutline
 // Asks the engine node by node.
 [[nodiscard]] DeviceOutline OutlineOf(const Document& document);
 
-// The same from the bytes that the document was loaded from, in a thirtieth of the time. None for a document that
+// The same from the bytes that the document was loaded from, in a twentieth of the time. None for a document that
 // has to be asked after all; see PlainReader.
 [[nodiscard]] std::optional<DeviceOutline> OutlineOf(std::string_view bytes);
 

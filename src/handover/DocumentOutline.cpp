@@ -1,7 +1,5 @@
 #include "handover/DeviceOutline.h"
 
-#include <algorithm>
-#include <array>
 #include <utility>
 
 namespace norvepa
@@ -9,12 +7,6 @@ namespace norvepa
 
 namespace
 {
-
-constexpr std::array<std::pair<std::wstring_view, DriverType>, 3> EntryWords{{
-    {L"Parameter", DriverType::String},
-    {L"ParameterInt", DriverType::Integer},
-    {L"ParameterBool", DriverType::Boolean},
-}};
 
 DeviceOutline::Text Keep(DeviceOutline& outline, std::wstring_view text)
 {
@@ -81,13 +73,6 @@ void AddSection(DeviceOutline& outline, const Node& element, std::wstring_view w
 }
 
 } // namespace
-
-std::optional<DriverType> DriverTypeOf(std::wstring_view word) noexcept
-{
-    const auto row = std::find_if(EntryWords.begin(), EntryWords.end(),
-                                  [=](const auto& each) { return each.first == word; });
-    return row == EntryWords.end() ? std::nullopt : std::optional(row->second);
-}
 
 DeviceOutline OutlineOf(const Document& document)
 {

@@ -2,7 +2,6 @@
 #include "xml/PlainReader.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace norvepa
@@ -13,26 +12,10 @@ namespace
 
 using Token = PlainReader::Token;
 
-struct EntryWord
-{
-    std::string_view word;
-    DriverType type;
-};
-
-constexpr std::array<EntryWord, 3> EntryWords{{{"Parameter", DriverType::String},
-                                               {"ParameterInt", DriverType::Integer},
-                                               {"ParameterBool", DriverType::Boolean}}};
-
-const EntryWord* FindEntryWord(std::string_view word) noexcept
-{
-    const auto row = std::find_if(EntryWords.begin(), EntryWords.end(),
-                                  [=](const EntryWord& each) { return each.word == word; });
-    return row == EntryWords.end() ? nullptr : &*row;
-}
-
 bool IsAscii(std::string_view word) noexcept
 {
-    return std::all_of(word.begin(), word.end(), [](char byte) { return byte > 0; });
+    return std::all_of(word.begin(), word.end(),
+                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
 
 // Goes from tag to tag. Elements in unusual places, a parameter within a parameter, say, are more than one
@@ -101,7 +84,7 @@ private:
         std::string_view word;
         std::size_t tag; // how many there were ahead of it
         std::optional<std::wstring> subdevice;
-        std::size_t section = None; // its own, or a parameter's: the place among those found
+        std::size_t section = None; // which of those found it is; of a parameter, which it stands in
     };
 
     struct Found
@@ -125,22 +108,27 @@ private:
         }
         if (parent.kind == Kind::Parameter && word == "Name")
         {
-            return ReadPart(token, m_sections[parent.section].section.parameters.back().name);
+            return ReadPart(token, LastParameterOf(parent.section).name);
         }
         if (parent.kind == Kind::Parameter && word == "Value")
         {
-            return ReadPart(token, m_sections[parent.section].section.parameters.back().value);
+            return ReadPart(token, LastParameterOf(parent.section).value);
         }
-        if (const EntryWord* const entry = FindEntryWord(word))
+        if (const auto type = DriverTypeOf(word))
         {
-            return parent.kind == Kind::Element && EnterParameter(token, entry->type);
+            return parent.kind == Kind::Element && EnterParameter(token, *type);
         }
         return Enter(word == "Load" ? Kind::Load : Kind::Element, token);
     }
 
+    [[nodiscard]] DeviceOutline::Parameter& LastParameterOf(std::size_t section)
+    {
+        return m_sections[section].section.parameters.back();
+    }
+
     [[nodiscard]] bool ReadLoadEntry(Token token)
     {
-        if (m_reader.word() == "Load" || FindEntryWord(m_reader.word()) != nullptr)
+        if (m_reader.word() == "Load" || DriverTypeOf(m_reader.word()))
         {
             return false;
         }

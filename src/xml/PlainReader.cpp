@@ -149,9 +149,12 @@ bool PlainReader::SkipDeclaration()
 bool PlainReader::SkipPast(std::string_view mark)
 {
     const std::size_t place = m_rest.find(mark);
-    m_rest.remove_prefix(
-        std::min(m_rest.size(), place == std::string_view::npos ? place : place + mark.size()));
-    return place != std::string_view::npos;
+    if (place == std::string_view::npos)
+    {
+        return false;
+    }
+    m_rest.remove_prefix(place + mark.size());
+    return true;
 }
 
 PlainReader::Token PlainReader::Read()
@@ -210,7 +213,11 @@ PlainReader::Token PlainReader::ReadBeginTag()
     m_attributes = tag;
     // A prefix that isn't declared an engine may leave out.
     m_isPlain = m_word.find(':') == std::string_view::npos && tag.find("xml:space") == std::string_view::npos;
-    return !m_isPlain ? Token::NotPlain : isEmpty ? Token::EmptyTag : Token::BeginTag;
+    if (!m_isPlain)
+    {
+        return Token::NotPlain;
+    }
+    return isEmpty ? Token::EmptyTag : Token::BeginTag;
 }
 
 bool PlainReader::ReadAttribute(std::string_view name, std::optional<std::wstring>& text) const
