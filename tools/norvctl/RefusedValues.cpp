@@ -73,6 +73,7 @@ std::vector<RefusedValue> RefusedValues(const std::string& device, const ValueCh
     const std::vector<NameAndValue> values = ValuesOfDevice(device);
     std::vector<RefusedValue> refused;
     std::set<std::wstring> seen;
+    std::set<std::wstring> told; // places: two parameters may have one in common
     for (const std::wstring& parameter : ParametersOf(values, check))
     {
         const Place place = check.PlaceOf(parameter);
@@ -83,7 +84,7 @@ std::vector<RefusedValue> RefusedValues(const std::string& device, const ValueCh
         }
         const std::optional<std::string> value = StoredAt(device, place, values);
         const int32_t result = value ? check.Check(parameter, ToWide(*value)) : PGSP_OK;
-        if (result != PGSP_OK)
+        if (result != PGSP_OK && told.insert(ToLower(place.section + L'\\' + place.name)).second)
         {
             refused.push_back({ToUtf8(parameter), *value, result});
         }

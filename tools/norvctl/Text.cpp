@@ -33,6 +33,19 @@ bool IsUtf8(std::string_view bytes)
            MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, bytes.data(), length, nullptr, 0) != 0;
 }
 
+bool EqualNoCase(std::wstring_view left, std::wstring_view right)
+{
+    return CompareStringOrdinal(left.data(), static_cast<int>(left.size()), right.data(),
+                                static_cast<int>(right.size()), TRUE) == CSTR_EQUAL;
+}
+
+std::wstring ToLower(std::wstring_view text)
+{
+    std::wstring lower(text);
+    CharLowerBuffW(lower.data(), static_cast<DWORD>(lower.size()));
+    return lower;
+}
+
 std::vector<std::string> CommandLineReversed()
 {
     int count = 0;

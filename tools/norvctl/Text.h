@@ -13,6 +13,10 @@ namespace norvctl
 [[nodiscard]] std::wstring ToWide(std::string_view utf8);
 [[nodiscard]] bool IsUtf8(std::string_view bytes);
 
+// As the library compares names.
+[[nodiscard]] bool EqualNoCase(std::wstring_view left, std::wstring_view right);
+[[nodiscard]] std::wstring ToLower(std::wstring_view text);
+
 // The process's arguments without its name, last one first: the order that the parser takes them in.
 [[nodiscard]] std::vector<std::string> CommandLineReversed();
 
