@@ -22,6 +22,7 @@ void AddDataCommands(CLI::App& app, const Report& report);     // data list, get
 void AddWatchCommand(CLI::App& app, const Report& report);     // watch
 void AddTraceCommands(CLI::App& app, const Report& report);    // trace status, on, off
 void AddVersionCommand(CLI::App& app, const Report& report);   // version
+void AddDoctorCommand(CLI::App& app, const Report& report);    // doctor
 
 // Verbs that have a file beside their noun's.
 void AddDeviceLifeCommands(CLI::App& device, const Report& report); // device create, copy, delete

@@ -51,9 +51,9 @@ public:
     [[nodiscard]] Entry Protocol(const std::string& cpType) const;
 
     // Tells when a log device's or a template's board or protocol is missing. True when both can be used.
-    [[nodiscard]] bool CheckNames(const std::string& kind, const std::string& name,
-                                  const std::string& deviceId, const std::string& cpType,
-                                  Findings& findings) const;
+    [[nodiscard]] bool CheckEntries(const std::string& kind, const std::string& name,
+                                    const std::string& deviceId, const std::string& cpType,
+                                    Findings& findings) const;
 
     // Of two that can be used.
     [[nodiscard]] const ValueCheck& ChecksOf(const std::string& deviceId, const std::string& cpType);
@@ -76,9 +76,11 @@ void CheckNames(const StoreFolders& folders, Findings& findings);
 
 struct FileKind
 {
-    const char* word;      // "log device"
-    std::uint16_t number;  // LogDeviceGetXmlBL's
-    const wchar_t* folder; // below a root
+    const char* word;     // "log device"
+    std::uint16_t number; // LogDeviceGetXmlBL's
+    const wchar_t* root;  // the word of the root that its folder lies in, and a part of the path
+    const wchar_t* folder;
+    const wchar_t* prefix; // what its file names begin with
     const char* removal;   // the verb that removes one; empty when there is none
 };
 extern const FileKind DeviceKind;
@@ -89,6 +91,12 @@ extern const FileKind TemplateKind;
 
 // `norvctl device delete --force "Labor"`, or the file to be removed by hand.
 [[nodiscard]] std::string HowToRemove(const FileKind& kind, const std::string& name);
+
+// "data\LogDevices".
+[[nodiscard]] std::wstring FolderOf(const FileKind& kind);
+
+// Whether a file can be parsed to its end: most reads end at what they look for. By its name as it is listed.
+[[nodiscard]] bool IsWellFormed(const FileKind& kind, const std::string& file);
 
 // A file that can't be parsed, perhaps because there is nothing in it.
 [[nodiscard]] Finding UnreadableFile(const FileKind& kind, const std::string& name);

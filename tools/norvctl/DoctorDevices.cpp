@@ -89,12 +89,12 @@ void CheckDevice(const std::string& name, Catalogue& catalogue, Findings& findin
         return;
     }
     const int32_t result = ReadForDriver(name);
-    if (result == PGSP_ERR_CANT_LOAD_XML_FILE)
+    const bool isTold = result == PGSP_ERR_CANT_LOAD_SCHEMA || result == PGSP_ERR_FOLDER_NOT_FOUND;
+    if (result == PGSP_ERR_CANT_LOAD_XML_FILE || (isTold && !IsWellFormed(DeviceKind, name)))
     {
         findings.push_back(UnreadableFile(DeviceKind, name));
         return;
     }
-    const bool isTold = result == PGSP_ERR_CANT_LOAD_SCHEMA || result == PGSP_ERR_FOLDER_NOT_FOUND;
     if (result != PGSP_OK && !isTold)
     {
         findings.push_back(UnreadByDriver(name, result));
@@ -102,7 +102,7 @@ void CheckDevice(const std::string& name, Catalogue& catalogue, Findings& findin
 
     const std::string board = ReadDevice(name, "DeviceID").value;
     const std::string protocol = ReadDevice(name, "CP_TYPE").value;
-    if (catalogue.CheckNames(DeviceKind.word, name, board, protocol, findings))
+    if (catalogue.CheckEntries(DeviceKind.word, name, board, protocol, findings))
     {
         CheckValues(name, catalogue.ChecksOf(board, protocol), findings);
     }

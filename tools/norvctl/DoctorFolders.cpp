@@ -41,7 +41,7 @@ bool CheckRoot(const StoreRoot& root, const std::wstring& path, Findings& findin
     return true;
 }
 
-bool CheckFolder(const std::wstring& root, const wchar_t* folder, const char* advice, Findings& findings)
+bool CheckFolder(const std::wstring& root, const std::wstring& folder, const char* advice, Findings& findings)
 {
     const std::wstring path = root + L'\\' + folder;
     if (IsFolder(path))
@@ -82,15 +82,15 @@ StoreFolders CheckFolders(Findings& findings)
     const std::wstring data = PathOf(DataRoot);
     if (CheckRoot(DataRoot, data, findings))
     {
-        folders.logDevices = CheckFolder(data, DeviceKind.folder, make, findings);
-        folders.logNames = CheckFolder(data, NameKind.folder, make, findings);
+        folders.logDevices = CheckFolder(data, FolderOf(DeviceKind), make, findings);
+        folders.logNames = CheckFolder(data, FolderOf(NameKind), make, findings);
     }
     const std::wstring program = PathOf(ProgramRoot);
     if (CheckRoot(ProgramRoot, program, findings))
     {
-        folders.boards = CheckFolder(program, BoardKind.folder, install, findings);
-        folders.protocols = CheckFolder(program, ProtocolKind.folder, install, findings);
-        folders.templates = CheckFolder(program, TemplateKind.folder, install, findings);
+        folders.boards = CheckFolder(program, FolderOf(BoardKind), install, findings);
+        folders.protocols = CheckFolder(program, FolderOf(ProtocolKind), install, findings);
+        folders.templates = CheckFolder(program, FolderOf(TemplateKind), install, findings);
         folders.schemas = CheckFolder(program, L"Schemes", install, findings);
     }
     return folders;

@@ -18,19 +18,6 @@ std::vector<std::string> AllNames()
                      [](wchar_t* list, uint32_t* length) { return PGSP_GetLogNameListBL(list, length); });
 }
 
-// Reading one value stops at it: only all of them take the whole file.
-bool CanBeParsed(const std::wstring& name)
-{
-    constexpr std::uint32_t room = 1024;
-
-    std::vector<wchar_t> parameter(room);
-    std::vector<wchar_t> value(room);
-    std::uint32_t parameterLength = room;
-    std::uint32_t valueLength = room;
-    return LogNameGetEnumValueBL(name.c_str(), 0, parameter.data(), &parameterLength, value.data(),
-                                 &valueLength) != PGSP_ERR_FILE_NOT_FOUND;
-}
-
 std::string LinkOf(const std::wstring& name)
 {
     return ReadText([&](wchar_t* device, uint32_t* length) {
@@ -47,7 +34,7 @@ void CheckName(const std::string& name, const StoreFolders& folders, Findings& f
         findings.push_back(MisnamedFile(NameKind, name));
         return;
     }
-    if (!CanBeParsed(wide))
+    if (!IsWellFormed(NameKind, name))
     {
         findings.push_back(UnreadableFile(NameKind, name));
         return;

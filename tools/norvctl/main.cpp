@@ -31,15 +31,21 @@ int main() // NOLINT(bugprone-exception-escape) what CLI11 throws ahead of the p
     norvctl::AddWatchCommand(app, report);
     norvctl::AddTraceCommands(app, report);
     norvctl::AddVersionCommand(app, report);
+    norvctl::AddDoctorCommand(app, report);
 
     try
     {
         app.parse(norvctl::CommandLineReversed());
         return 0;
     }
+    catch (const CLI::RuntimeError& error)
+    {
+        return error.get_exit_code(); // of a verb that has told all there is to tell
+    }
     catch (const CLI::ParseError& error)
     {
-        return app.exit(error) == 0 ? 0 : 1;
+        const int misuse = app.got_subcommand("doctor") ? 2 : 1; // to doctor 1 is an answer
+        return app.exit(error) == 0 ? 0 : misuse;
     }
     catch (const std::exception& error)
     {
