@@ -34,7 +34,7 @@ namespace
 
 using ThreadState = __cxxabiv1::__cxa_eh_globals;
 
-// What the run-time library has ahead of an exception: 160 bytes in its present form, and it counts them backwards.
+// What the run-time library has ahead of an exception: 160 bytes in its present form, counted backwards.
 constexpr std::size_t HeaderBytes = 256;
 
 constexpr std::size_t Reserves = 64;
@@ -95,7 +95,8 @@ ThreadState* MakeState() noexcept
     return static_cast<ThreadState*>(memory.release());
 }
 
-// A thread that was given one keeps it: an exception may be in flight. Whoever has its number next takes it over.
+// A thread that was given one keeps it: an exception may be in flight. Whoever has its number next takes it
+// over.
 ThreadState* FindSpareState(DWORD thread) noexcept
 {
     const auto own = std::find_if(spareStates.begin(), spareStates.end(),

@@ -59,6 +59,11 @@ TEST(LibraryFile, ExportsWhatThePublicHeaderDeclaresAndNothingElse)
     EXPECT_EQ(library.exportedFunctionCount(), library.exportedNames().size());
 }
 
+TEST(LibraryFile, ExportsEightyFunctions)
+{
+    EXPECT_EQ(PortableExecutable(LibraryPath()).exportedFunctionCount(), 80U);
+}
+
 TEST(LibraryFile, ExportsUndecoratedNames)
 {
     const std::vector<std::string> names = PortableExecutable(LibraryPath()).exportedNames();

@@ -1,3 +1,4 @@
+#include "support/LibraryPresence.h"
 #include "support/LogNameCalls.h"
 
 #include <windows.h>
@@ -12,11 +13,6 @@ namespace norvepa::test
 {
 namespace
 {
-
-bool IsLoaded()
-{
-    return GetModuleHandleW(L"NorvepaBl64x.dll") != nullptr;
-}
 
 // What COM says of the calling thread: S_OK with its kind, or CO_E_NOTINITIALIZED.
 HRESULT ApartmentOf(APTTYPE& type)
@@ -47,10 +43,10 @@ TEST_F(Module, MayBeLoadedAndUnloadedTwice)
     {
         {
             const Exports library;
-            EXPECT_TRUE(IsLoaded());
+            EXPECT_TRUE(IsLibraryLoaded());
             EXPECT_EQ(Value(library), L"Halle 2");
         }
-        EXPECT_FALSE(IsLoaded());
+        EXPECT_FALSE(IsLibraryLoaded());
     }
 }
 

@@ -1,14 +1,14 @@
 #pragma once
 
-// What this process has of the system's things and of memory at one moment: what is counted ahead of something
-// and behind it tells what that has left behind.
+// What this process has of the system's things and of memory at one moment: counted ahead of something and
+// behind it, it tells what that has left.
 //
 //     const ProcessResources before = CountProcessResources();
 //     ...
 //     EXPECT_EQ(CountProcessResources(), before);
 //
-// Callers must: count on a process in which nothing else is under way. What the test itself holds is counted too,
-// so whatever it needs later it has to have ahead of the first count.
+// Callers must: count in a process in which nothing else is under way. What the test itself holds is counted
+// too, so whatever it needs later it has to have ahead of the first count.
 
 #include <iosfwd>
 

@@ -68,8 +68,8 @@ protected:
     const test::InstalledEngine engine{scene.folder()};
 };
 
-// The names of mutex and counter are there for as long as any process of the machine traces: what this one has
-// of them is seen by its handles and views.
+// The names of mutex and counter are there for as long as any process of the machine traces: what this one
+// has of them is seen by its handles and views.
 TEST_F(TraceEndTest, GivesBackMutexAndCounter)
 {
     scene.SetFiles();
