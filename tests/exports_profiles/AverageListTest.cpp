@@ -40,6 +40,16 @@ TEST_F(AverageList, ComparesAValueThatBeginsWithASlashAsEmpty)
                 ElementsAre(L"/of the board"));
 }
 
+TEST_F(AverageList, ComparesAnEmptyValueAsAnyOther)
+{
+    EXPECT_THAT(ValuesOfBoth({L"a", L"", L"/of the board"}, {L"", L"b"}), ElementsAre(L"", L"/of the board"));
+}
+
+TEST_F(AverageList, DropsAnEmptyValueThatTheProtocolDoesNotList)
+{
+    EXPECT_THAT(ValuesOfBoth({L"a", L""}, {L"a"}), ElementsAre(L"a"));
+}
+
 TEST_F(AverageList, ComparesInExactCase)
 {
     EXPECT_THAT(

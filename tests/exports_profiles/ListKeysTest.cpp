@@ -134,6 +134,38 @@ TEST_P(ListKeys, DoNotFallBackToThePlainOneForAProfileThatTheProtocolDoesNotKnow
     EXPECT_EQ(Values(L"baudrate"), NothingListed());
 }
 
+// An empty step is none, and of the sections of that name below the parameter the first is met.
+TEST_P(ListKeys, AreThoseOfTheFirstProfileWithBaudratesWhereTheBusProfileIsEmpty)
+{
+    WriteWithProfile(L"L2", L"");
+
+    EXPECT_THAT(Values(L"baudrate"), ElementsAre(L"19200"));
+    EXPECT_THAT(Values(L"cable"), ElementsAre(L"Kupfer/of none"));
+}
+
+TEST_P(ListKeys, OfAParameterWithBackslashesLeadBelowItsValues)
+{
+    for (const wchar_t* const protocol : {L"L2", L"MPI"})
+    {
+        SCOPED_TRACE(ToUtf8(protocol));
+        WriteWithProfile(protocol, L"1");
+
+        EXPECT_THAT(Values(L"busparam\\\u00DCber\\baudrate"), ElementsAre(L"45450"));
+        EXPECT_THAT(Values(L"busparam\\1\\\\cable\\"), ElementsAre(L"Funk"));
+        EXPECT_THAT(Values(L"busparam\\1"), ElementsAre(L"19200"));
+        EXPECT_EQ(Values(L"busparam\\1\\gone"), NothingListed());
+        EXPECT_EQ(Values(L"busparam\\1\\cable\\Funk\\further"), NothingListed());
+    }
+}
+
+TEST_P(ListKeys, OfAParameterWithBackslashesLeadBelowTheBoardsValuesToo)
+{
+    const XmlContent cables = SubParameter(L"cable", {{L"Kupfer"}});
+    store.WriteBoard(Catalogue().Parameter(L"busparam", {}, Profiles({{L"1", cables}})));
+
+    EXPECT_THAT(Values(L"busparam\\1\\cable"), ElementsAre(L"Kupfer"));
+}
+
 TEST_P(ListKeys, AreAskedForBehindTheProgramFolder)
 {
     WriteBoth(L"L2", {});

@@ -86,6 +86,59 @@ TEST_F(SetBusparamsL2Failure, LeavesADeviceWhoseSpeedIsATextWithASecondOne)
     ExpectBus(XmlContent().Element(L"LocalSettings", XmlContent(settings).Int(L"baudrate", L"9600")));
 }
 
+TEST_F(SetBusparamsL2Failure, OfNoNumberLeavesADeviceThatHadNoSpeedWithAnEmptyOne)
+{
+    const XmlContent settings = XmlContent().Int(L"busparam", L"1");
+    WriteBus(XmlContent().Element(L"LocalSettings", settings));
+
+    EXPECT_EQ(SetSpeed(L"fast"), PGSP_ERR_INVALID_PARAMETERS);
+
+    ExpectBus(XmlContent().Element(L"LocalSettings", XmlContent(settings).Int(L"baudrate", L"")));
+}
+
+TEST_F(SetBusparamsL2Failure, OfNoNumberLeavesADeviceWhoseSpeedIsATextWithASecondOne)
+{
+    const XmlContent settings = XmlContent().Text(L"baudrate", L"9600").Int(L"busparam", L"1");
+    WriteBus(XmlContent().Element(L"LocalSettings", settings));
+
+    EXPECT_EQ(SetSpeed(L"fast"), PGSP_ERR_INVALID_PARAMETERS);
+
+    ExpectBus(XmlContent().Element(L"LocalSettings", XmlContent(settings).Int(L"baudrate", L"9600")));
+}
+
+// The old one can't be written back: it isn't a number.
+TEST_F(SetBusparamsL2Failure, LeavesTheNewSpeedWhereTheOldOneWasNoNumber)
+{
+    const auto device = [](std::wstring_view speed) {
+        return XmlContent().Element(L"LocalSettings",
+                                    XmlContent().Int(L"baudrate", speed).Int(L"busparam", L"2"));
+    };
+    WriteBus(device(L"abc"));
+
+    EXPECT_EQ(SetSpeed(L"19200"), PGSP_PROFILE_NO_VALUE);
+
+    ExpectBus(device(L"19200"));
+}
+
+TEST_F(SetBusparamsL2Failure, LeavesTheNewSpeedBesideATextThatIsNoNumber)
+{
+    const XmlContent settings = XmlContent().Text(L"baudrate", L"abc").Int(L"busparam", L"2");
+    WriteBus(XmlContent().Element(L"LocalSettings", settings));
+
+    EXPECT_EQ(SetSpeed(L"19200"), PGSP_PROFILE_NO_VALUE);
+
+    ExpectBus(XmlContent().Element(L"LocalSettings", XmlContent(settings).Int(L"baudrate", L"19200")));
+}
+
+TEST_F(SetBusparamsL2Failure, OfTheSpeedThatIsThereChangesNothing)
+{
+    WriteBus({.speed = L"9600", .profile = L"2"});
+    ExpectSpeedChangesNothing(L"9600", PGSP_PROFILE_NO_VALUE);
+
+    WriteBus({.speed = L"93750", .profile = L"1"});
+    ExpectSpeedChangesNothing(L"93750", PGSP_PROFILE_NO_VALUE);
+}
+
 TEST_F(SetBusparamsL2Failure, OfADeviceWithoutTheSectionChangesNothing)
 {
     WriteBus(XmlContent()

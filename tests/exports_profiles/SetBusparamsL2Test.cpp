@@ -80,6 +80,18 @@ TEST_F(SetBusparamsL2, AsksNoCatalogueWhetherTheSpeedIsAllowed)
     }
 }
 
+TEST_F(SetBusparamsL2, StoresANumberAsItIsWritten)
+{
+    for (const std::wstring speed : {L" 9600", L"+5", L"\t 7", L"0009600", L"-0"})
+    {
+        WriteBus({.speed = L"19200", .profile = L"3"});
+
+        EXPECT_EQ(SetSpeed(speed), PGSP_OK) << ToUtf8(speed);
+
+        EXPECT_THAT(store.Bytes(L"Presse"), testing::HasSubstr(">" + ToUtf8(speed) + "</"));
+    }
+}
+
 TEST_F(SetBusparamsL2, StoresNumbersOnly)
 {
     for (const wchar_t* const profile : {L"1", L"3"})

@@ -194,6 +194,14 @@ TEST_F(SetProfileArguments, NeedTheProgramFolder)
     ExpectSetProfileChangesNothing(L"slot", PGSP_ERR_FOLDER_NOT_FOUND);
 }
 
+// A log device without a name has no value, and that is known first.
+TEST_F(SetProfileArguments, NeedNoProgramFolderForALogDeviceWithoutAName)
+{
+    store.TakeProgramFolderAway();
+
+    EXPECT_EQ(SetProfileOf(L""), PGSP_PROFILE_NO_VALUE);
+}
+
 TEST_F(SetProfileArguments, NeedTheProgramFolderAlsoWithoutTheDataFolder)
 {
     store.TakeDataFolderAway();
