@@ -1,6 +1,9 @@
 #include "LifeScene.h"
+#include "support/AllAtOnce.h"
 #include "support/FreshThread.h"
 #include "support/XmlMeaning.h"
+
+#include <array>
 
 namespace norvepa::test
 {
@@ -8,6 +11,7 @@ namespace
 {
 
 using testing::ElementsAre;
+using testing::UnorderedElementsAre;
 
 class Copy : public LifeScene
 {
@@ -184,6 +188,23 @@ TEST_F(Copy, CanBeMadeOfADeviceThatAnotherProcessReadsButNotOfOneThatItKeepsToIt
     EXPECT_EQ(Run(L"Presse", L"zweite"), PGSP_ERR_CANT_COPY_FILE);
 
     EXPECT_THAT(Files(), ElementsAre(L"Kopie.xml", L"Presse.xml"));
+}
+
+TEST_F(Copy, OfOneNameIsMadeByOneThreadAlone)
+{
+    constexpr int threads = 4;
+    for (int round = 0; round < 10; ++round)
+    {
+        const std::wstring copy = L"Kopie " + std::to_wstring(round);
+        std::array<std::int32_t, threads> results{};
+
+        AllAtOnce(threads,
+                  [&](int thread) { results.at(static_cast<std::size_t>(thread)) = Run(L"Presse", copy); });
+
+        EXPECT_THAT(results, UnorderedElementsAre(PGSP_OK, PGSP_ERR_CANT_COPY_FILE, PGSP_ERR_CANT_COPY_FILE,
+                                                  PGSP_ERR_CANT_COPY_FILE));
+        EXPECT_EQ(store.Saved(copy), MeaningOf(LogDeviceFile(Rights(L"true", L"false"))));
+    }
 }
 
 } // namespace

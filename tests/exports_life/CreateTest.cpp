@@ -216,26 +216,14 @@ TEST_F(Create, FindsNoTemplateOfTooLongAPath)
     EXPECT_EQ(Make(std::wstring(300, L't'), store.DeviceForPathOf(260)), PGSP_ERR_FILE_NOT_FOUND);
 }
 
-TEST_F(Create, GivesADeviceWithTheExtensionAnywhereInItsNameNoSecondOne)
+// A folder is there as a file is, and can't be copied as one.
+TEST_F(Create, CanNotCopyATemplateThatIsAFolder)
 {
-    EXPECT_EQ(Make(L"MPI", L"Presse.xml"), PGSP_OK);
-    EXPECT_EQ(Make(L"MPI", L"Pumpe.xml.old"), PGSP_OK);
-    EXPECT_EQ(Make(L"MPI", L"Band.XML"), PGSP_OK);
+    MakeFolders(roots.deviceTemplate(L"Ordner"));
 
-    EXPECT_THAT(Files(), testing::UnorderedElementsAre(L"Presse.xml", L"Pumpe.xml.old", L"Band.XML.xml"));
-}
+    EXPECT_EQ(Make(L"Ordner", L"Presse"), PGSP_ERR_CANT_COPY_FILE);
 
-// What looks for a template and what copies it give names the extension by different rules.
-TEST_F(Create, LooksForATemplateUnderAnotherNameThanItCopies)
-{
-    WriteBytes(roots.program() + L"\\meta\\DefaultLogDevices\\" + TemplatePrefix + L"MPI.xml.old", "copied");
-    EXPECT_EQ(Make(L"MPI.xml.old", L"Presse"), PGSP_ERR_FILE_NOT_FOUND);
-
-    WriteBytes(roots.deviceTemplate(L"MPI.xml.old"), "looked for");
-    EXPECT_EQ(Make(L"MPI.xml.old", L"Presse"), PGSP_OK);
-
-    EXPECT_EQ(store.Bytes(L"Presse"), "copied");
-    EXPECT_EQ(Make(L"MPI.xml", L"Pumpe"), PGSP_OK);
+    EXPECT_THAT(Files(), IsEmpty());
 }
 
 TEST_F(Create, CanNotCopyATemplateThatAnotherProcessKeepsToItself)

@@ -1,6 +1,5 @@
 #include "LogNameTraceScene.h"
 #include "support/DeviceStore.h"
-#include "support/OpenFile.h"
 #include "support/OutputBuffer.h"
 
 namespace norvepa::test
@@ -194,76 +193,6 @@ TEST_F(TemporaryTrace, OfATemplateNamesTheDataFolderAheadOfTheOther)
                 ElementsAre("entry: >> DefLogDeviceName = MPI", NoFolder, "exit: << return lRet = 8517"));
 }
 
-TEST_F(TemporaryTrace, OfASwapSaysThatTheTemporaryDeviceIsRemovedAheadOfItsRemoval)
-{
-    WriteBytes(roots.logDevice(First), "");
-    Load();
-
-    EXPECT_EQ(library().LogDeviceUpdateWithTempBL(First, L"Presse"), PGSP_OK);
-
-    const std::string folder = ToAnsi(store.deviceFolder());
-    const std::string device = folder + "\\Presse";
-    const std::string temporary = folder + "\\PGSP_TEMP_LOG_DEVICE____000";
-    EXPECT_THAT(
-        LinesTaggedAnyOf({"LogDeviceUpdateWithTempBL: ", "NorvXMLDeleteFile: ", "NorvXMLCopyFile: "}),
-        ElementsAre("entry: >> TempLogDevice = PGSP_TEMP_LOG_DEVICE____000, LogDevice = Presse",
-                    "entry: >> filePath = " + device, "entry: >> _wremove = " + device + ".xml",
-                    "entry: >> destinationPath = " + device,
-                    "exit:  : CopyFile >> OldFile = " + temporary + ".xml, NewFile = " + device + ".xml",
-                    "exit: << LogDevice updated. TempLogDevice deleted.", "entry: >> filePath = " + temporary,
-                    "entry: >> _wremove = " + temporary + ".xml"));
-    EXPECT_THAT(LinesOf("SendNotificationBL"), IsEmpty());
-}
-
-TEST_F(TemporaryTrace, OfASwapSaysSoEvenWhenTheTemporaryDeviceStays)
-{
-    WriteBytes(roots.logDevice(First), "");
-    const OpenFile inUse(roots.logDevice(First));
-    Load();
-
-    EXPECT_EQ(library().LogDeviceUpdateWithTempBL(First, L"Presse"), PGSP_ERR_CANT_DELETE_FILE);
-
-    EXPECT_THAT(LinesOf("LogDeviceUpdateWithTempBL"),
-                ElementsAre("entry: >> TempLogDevice = PGSP_TEMP_LOG_DEVICE____000, LogDevice = Presse",
-                            "exit: << LogDevice updated. TempLogDevice deleted."));
-}
-
-TEST_F(TemporaryTrace, OfASwapThatCanNotBeCopiedIsTheResult)
-{
-    Load();
-
-    EXPECT_EQ(library().LogDeviceUpdateWithTempBL(First, L"Presse"), PGSP_ERR_CANT_COPY_FILE);
-
-    EXPECT_THAT(LinesOf("LogDeviceUpdateWithTempBL"),
-                ElementsAre("entry: >> TempLogDevice = PGSP_TEMP_LOG_DEVICE____000, LogDevice = Presse",
-                            "exit: << return lRet = 8512"));
-}
-
-TEST_F(TemporaryTrace, OfASwapForADeviceThatIsMissingCopiesNothing)
-{
-    WriteBytes(roots.logDevice(First), "");
-    Load();
-
-    EXPECT_EQ(library().LogDeviceUpdateWithTempBL(First, L"gone"), PGSP_ERR_FILE_NOT_FOUND);
-    EXPECT_EQ(library().LogDeviceUpdateWithTempBL(First, store.DeviceForPathOf(260).c_str()),
-              PGSP_ERR_BUFFER_TOO_SHORT);
-
-    EXPECT_THAT(LinesOf("NorvXMLCopyFile"), IsEmpty());
-    EXPECT_THAT(LinesOf("LogDeviceUpdateWithTempBL"),
-                testing::Contains("entry: >> TempLogDevice = PGSP_TEMP_LOG_DEVICE____000, LogDevice = gone"));
-}
-
-TEST_F(TemporaryTrace, OfASwapNamesTheDataFolderThatIsMissing)
-{
-    store.TakeDataFolderAway();
-    Load();
-
-    EXPECT_EQ(library().LogDeviceUpdateWithTempBL(L"", L""), PGSP_ERR_FOLDER_NOT_FOUND);
-
-    EXPECT_THAT(LinesOf("LogDeviceUpdateWithTempBL"), ElementsAre("entry: >> TempLogDevice = , LogDevice = ",
-                                                                  NoFolder, "exit: << return lRet = 8517"));
-}
-
 TEST_F(TemporaryTrace, OfARemovalIsTheResult)
 {
     WriteBytes(roots.logDevice(First), "");
@@ -308,8 +237,6 @@ TEST_F(TemporaryTrace, OfMissingArgumentsBeginsWithThem)
     EXPECT_EQ(Make(nullptr), PGSP_ERR_INVALID_PARAMETERS);
     EXPECT_EQ(library().LogDeviceCreateTempBL(L"Presse", nullptr, nullptr), PGSP_ERR_INVALID_PARAMETERS);
     EXPECT_EQ(MakeFromTemplate(L""), PGSP_ERR_INVALID_PARAMETERS);
-    EXPECT_EQ(library().LogDeviceUpdateWithTempBL(nullptr, L"Presse"), PGSP_ERR_INVALID_PARAMETERS);
-    EXPECT_EQ(library().LogDeviceUpdateWithTempBL(First, nullptr), PGSP_ERR_INVALID_PARAMETERS);
     EXPECT_EQ(library().LogDeviceDelTempBL(nullptr), PGSP_ERR_INVALID_PARAMETERS);
     EXPECT_EQ(library().LogDeviceDelTempBL(L""), PGSP_ERR_INVALID_PARAMETERS);
 
@@ -317,9 +244,6 @@ TEST_F(TemporaryTrace, OfMissingArgumentsBeginsWithThem)
                 ElementsAre("entry: >> LogDevice = ", Refusal, "entry: >> LogDevice = Presse", Refusal));
     EXPECT_THAT(LinesOf("LogDeviceCreateTempFromDefBL"),
                 ElementsAre("entry: >> DefLogDeviceName = ", Refusal));
-    EXPECT_THAT(LinesOf("LogDeviceUpdateWithTempBL"),
-                ElementsAre("entry: >> TempLogDevice = , LogDevice = Presse", Refusal,
-                            "entry: >> TempLogDevice = PGSP_TEMP_LOG_DEVICE____000, LogDevice = ", Refusal));
     EXPECT_THAT(LinesOf("LogDeviceDelTempBL"),
                 ElementsAre("entry: >> TempLogDevice = ", Refusal, "entry: >> TempLogDevice = ", Refusal));
 }
