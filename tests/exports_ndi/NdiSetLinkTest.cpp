@@ -240,21 +240,6 @@ TEST_F(NdiSetLink, SucceedsOnAFileThatCanNotBeWritten)
     ExpectSetNdiChangesNothing(L"DescText", L"Texte.dll,7", PGSP_OK);
 }
 
-TEST_F(NdiSetLink, IsReadBackAsTheLinkOrAsTheTextItLeadsTo)
-{
-    UseOurTexts();
-    Write(Identity({}, {}));
-
-    EXPECT_EQ(SetNdi(L"PropSheet", L"Seiten.dll,ShowPage"), PGSP_OK);
-    EXPECT_EQ(SetNdi(L"DescText", L"AuentalTexte.dll,1001"), PGSP_OK);
-    EXPECT_EQ(Value(L"PropSheet"), L"Seiten.dll,ShowPage");
-    EXPECT_EQ(Value(L"DescText"), L"Steam generators 1 and 2");
-
-    EXPECT_EQ(SetNdi(L"DescText", L"1005"), PGSP_OK);
-    EXPECT_EQ(Value(L"DescText"), L"Pulp press 3");
-    EXPECT_THAT(AllNdi(), testing::ElementsAre(testing::Pair(L"PropSheet", L"Seiten.dll,ShowPage")));
-}
-
 TEST_F(NdiSetLink, MakesNoLinkInAFileThatCanNotBeRead)
 {
     WriteBytes(roots.logDevice(L"broken"), "<LogDevice><UserInterface64></LogDevice>");

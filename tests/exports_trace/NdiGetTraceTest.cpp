@@ -8,84 +8,28 @@ namespace
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class NdiReadTrace : public NdiTraceScene
-{
-protected:
-    // Buffers of this test's own, with something in them.
-    wchar_t name[20] = L"name";
-    wchar_t value[30] = L"before";
-    std::uint32_t nameLength = 20;
-    std::uint32_t valueLength = 30;
-};
-
-class EnumNdiTrace : public NdiReadTrace
-{
-protected:
-    [[nodiscard]] std::int32_t Enum(const wchar_t* device, std::uint32_t index)
-    {
-        return library().PGSP_LogDeviceEnumNdiValueBL(device, index, name, &nameLength, value, &valueLength,
-                                                      0);
-    }
-};
-
-TEST_F(EnumNdiTrace, OfASuccessTellsThePairAndHasNoExit)
-{
-    Load();
-
-    EXPECT_EQ(Enum(L"Presse", 0), PGSP_OK);
-
-    EXPECT_THAT(LinesOf("PGSP_LogDeviceEnumNdiValueBL"),
-                ElementsAre("entry: >> LogDevice = Presse, index = 0",
-                            "information: Parameter = Ort, parLen = 3, Value = Halle, valLen = 5"));
-}
-
-TEST_F(EnumNdiTrace, OfAFailureTellsTheCodeAlone)
-{
-    Load();
-
-    EXPECT_EQ(Enum(L"Presse", 2), PGSP_ERR_NO_MORE_ITEMS);
-    EXPECT_EQ(Enum(L"gone", 0), PGSP_ERR_FILE_NOT_FOUND);
-    nameLength = 3;
-    EXPECT_EQ(Enum(L"Presse", 0), PGSP_ERR_BUFFER_TOO_SHORT);
-
-    EXPECT_THAT(LinesOf("PGSP_LogDeviceEnumNdiValueBL"),
-                ElementsAre("entry: >> LogDevice = Presse, index = 2", "exit: << return lRet = 259",
-                            "entry: >> LogDevice = gone, index = 0", "exit: << return lRet = 8503",
-                            "entry: >> LogDevice = Presse, index = 0", "exit: << return lRet = 234"));
-}
-
-TEST_F(EnumNdiTrace, OfMissingArgumentsBeginsWithThem)
-{
-    Load();
-
-    EXPECT_EQ(Enum(nullptr, 1), PGSP_ERR_INVALID_PARAMETERS);
-    EXPECT_EQ(library().PGSP_LogDeviceEnumNdiValueBL(L"Presse", 2, nullptr, nullptr, nullptr, nullptr, 0),
-              PGSP_ERR_INVALID_PARAMETERS);
-
-    EXPECT_THAT(LinesOf("PGSP_LogDeviceEnumNdiValueBL"),
-                ElementsAre("entry: >> LogDevice = , index = 1", Refusal,
-                            "entry: >> LogDevice = Presse, index = 2", Refusal));
-}
-
-TEST_F(EnumNdiTrace, WithoutTheDataFolderNamesIt)
-{
-    TakeDataFolderAway();
-    Load();
-
-    EXPECT_EQ(Enum(L"Presse", 0), PGSP_ERR_FOLDER_NOT_FOUND);
-
-    EXPECT_THAT(
-        LinesOf("PGSP_LogDeviceEnumNdiValueBL"),
-        ElementsAre("entry: >> LogDevice = Presse, index = 0", NoFolder, "exit: << return lRet = 8517"));
-}
-
-class GetNdiTrace : public NdiReadTrace
+class GetNdiTrace : public NdiTraceScene
 {
 protected:
     [[nodiscard]] std::int32_t Get(const wchar_t* device, const wchar_t* parameter)
     {
         return library().PGSP_LogDeviceGetNdiBL(device, parameter, value, &valueLength, 0);
     }
+
+    // A text of 12 characters, "Pulp press 3", besides which nothing is called "DescText".
+    void WriteDeviceWithText() const
+    {
+        CopyTree(FromUtf8(NORV_SAMPLE_RESOURCES), roots.program() + L"\\bin");
+        store.WriteDevice(
+            L"Presse",
+            XmlContent().Element(L"UserInterface64", XmlContent().Resource({.name = L"DescText",
+                                                                            .assembly = L"AuentalTexte.dll",
+                                                                            .resourceId = L"1005"})));
+    }
+
+    // A buffer of this test's own, with something in it.
+    wchar_t value[30] = L"before";
+    std::uint32_t valueLength = 30;
 };
 
 TEST_F(GetNdiTrace, TellsAParameterWithItsLength)
@@ -142,11 +86,7 @@ TEST_F(GetNdiTrace, OfAnEmptyLinkTellsAnEmptyValue)
 
 TEST_F(GetNdiTrace, TellsATextBehindTheLinesOfItsOwnExport)
 {
-    CopyTree(FromUtf8(NORV_SAMPLE_RESOURCES), roots.program() + L"\\bin");
-    store.WriteDevice(L"Presse", XmlContent().Element(L"UserInterface64",
-                                                      XmlContent().Resource({.name = L"DescText",
-                                                                             .assembly = L"AuentalTexte.dll",
-                                                                             .resourceId = L"1005"})));
+    WriteDeviceWithText();
     Load();
 
     EXPECT_EQ(Get(L"Presse", L"DescText"), PGSP_OK);
@@ -156,6 +96,50 @@ TEST_F(GetNdiTrace, TellsATextBehindTheLinesOfItsOwnExport)
                             "exit: << return lRet = 0, Value = Pulp press 3, dwValue = 12"));
     EXPECT_THAT(LinesOf("PGSP_LogDeviceGetResourceStringBL"),
                 ElementsAre("entry: >> LogDevice = Presse", "exit: << return lRet = 0"));
+}
+
+TEST_F(GetNdiTrace, OfATextThatDoesNotFitTellsItsLength)
+{
+    WriteDeviceWithText();
+    Load();
+    valueLength = 12;
+
+    EXPECT_EQ(Get(L"Presse", L"DescText"), PGSP_ERR_BUFFER_TOO_SHORT);
+
+    EXPECT_THAT(LinesOf("PGSP_LogDeviceGetNdiBL"),
+                ElementsAre("entry: >> LogDevice = Presse, Parameter = DescText",
+                            "exit: << return lRet = 234, Value = before, dwValue = 12"));
+    EXPECT_THAT(LinesOf("PGSP_LogDeviceGetResourceStringBL"),
+                ElementsAre("entry: >> LogDevice = Presse", "exit: << return lRet = 234"));
+}
+
+TEST_F(GetNdiTrace, OfAParameterThatDoesNotFitTellsThatNothingIsFoundBehindIt)
+{
+    Load();
+    valueLength = 5;
+
+    EXPECT_EQ(Get(L"Presse", L"Ort"), PGSP_ERR_PARAM_NOT_FOUND);
+
+    EXPECT_THAT(LinesOf("PGSP_LogDeviceGetNdiBL"),
+                ElementsAre("entry: >> LogDevice = Presse, Parameter = Ort",
+                            "exit: << return lRet = 8513, Value = befor, dwValue = 5"));
+    EXPECT_THAT(LinesOf("PGSP_LogDeviceGetResourceStringBL"),
+                ElementsAre("entry: >> LogDevice = Presse", "exit: << return lRet = 8513"));
+}
+
+TEST_F(GetNdiTrace, OfATextWithoutTheProgramFolderTellsTheResultAlone)
+{
+    WriteDeviceWithText();
+    store.TakeProgramFolderAway();
+    Load();
+
+    EXPECT_EQ(Get(L"Presse", L"DescText"), PGSP_ERR_FOLDER_NOT_FOUND);
+
+    EXPECT_THAT(LinesOf("PGSP_LogDeviceGetNdiBL"),
+                ElementsAre("entry: >> LogDevice = Presse, Parameter = DescText",
+                            "exit: << return lRet = 8517, Value = before, dwValue = 30"));
+    EXPECT_THAT(LinesOf("PGSP_LogDeviceGetResourceStringBL"),
+                ElementsAre("entry: >> LogDevice = Presse", "exit: << return lRet = 8517"));
 }
 
 TEST_F(GetNdiTrace, OfAFailureTellsWhatStandsInTheBuffer)
