@@ -100,13 +100,19 @@ TEST_F(TextFile, HasLinksByTheirNames)
 
 TEST_F(TextFile, HasNoLinkWithoutAName)
 {
+    WriteEverywhere(L"X", BothSections());
     OutputBuffer text(20);
+    const auto ask = [&](auto call, auto... names) {
+        return call(names..., nullptr, L"de", text.data(), &text.length, 1);
+    };
 
-    EXPECT_EQ(
-        library.PGSP_LogDeviceGetResourceStringBL(L"Presse", nullptr, L"de", text.data(), &text.length, 1),
-        PGSP_ERR_PARAM_NOT_FOUND);
+    EXPECT_EQ(ask(library.PGSP_LogDeviceGetResourceStringBL, L"X"), PGSP_ERR_PARAM_NOT_FOUND);
+    EXPECT_EQ(ask(library.PGSP_LogNameGetResourceStringBL, L"X"), PGSP_ERR_PARAM_NOT_FOUND);
+    EXPECT_EQ(ask(library.PGSP_BoardGetResourceStringBL, L"X"), PGSP_ERR_PARAM_NOT_FOUND);
+    EXPECT_EQ(ask(library.PGSP_TemplateGetResourceStringBL, L"Protocols", L"X"), PGSP_ERR_PARAM_NOT_FOUND);
 
     EXPECT_TRUE(text.isUntouched());
+    EXPECT_EQ(text.length, 20U);
 }
 
 TEST_F(TextFile, HasToBeThere)
@@ -148,6 +154,24 @@ TEST_F(TextFile, IsNamedByTheEscapedName)
     EXPECT_EQ(NameText(L"Gr\u00F6\u00DFe #3: 100%"), L"Silo");
     EXPECT_EQ(BoardText(L"Gr\u00F6\u00DFe #3: 100%"), L"Silo");
     EXPECT_EQ(TemplateText(L"Protocols", L"Gr\u00F6\u00DFe #3: 100%"), L"Silo");
+}
+
+TEST_F(TextFile, GetsNoSecondExtensionWhereverTheNameHoldsOne)
+{
+    WriteEverywhere(L"X", Links(TitleLink(L"1000")));
+    WriteEverywhere(L"X.xml.old", Links(TitleLink(L"1003"))); // with another extension behind
+
+    EXPECT_THAT(Everybodys(L"X.xml"), Each(L"Kessel"));
+    EXPECT_THAT(Everybodys(L"X.xml.old"), Each(Failed(PGSP_ERR_CANT_LOAD_XML_FILE)));
+    EXPECT_THAT(Everybodys(L"X.xml.old.xml"), Each(L"Silo"));
+}
+
+TEST_F(TextFile, IsNoSubdevice)
+{
+    store.WriteDevice(L"X", XmlContent().Subdevice(L"Ventil", Links(TitleLink(L"1000"))));
+
+    EXPECT_EQ(DeviceText(L"X\\subdevices\\Ventil"), Failed(PGSP_ERR_CANT_LOAD_XML_FILE));
+    EXPECT_EQ(DeviceText(L"X"), L"Kessel");
 }
 
 TEST_F(TextFile, OfAPathTooLongIsToldSo)

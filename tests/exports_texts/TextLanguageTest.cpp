@@ -113,5 +113,41 @@ TEST_F(TextLanguage, IsTakenByItsLengthAndNotByItsLetters)
     EXPECT_EQ(Title(L"\u00DC\u0416"), L"of two");
 }
 
+TEST_F(TextLanguage, MayLeadToAnotherFolder)
+{
+    WriteBytes(roots.program() + L"\\" + TexteDll, TextLibrary().Text(1000, L"above").file());
+    WriteBytes(bin() + L"\\" + TexteDll, TextLibrary().Text(1000, L"beside").file());
+    WriteBytes(bin() + L"\\a\\" + TexteDll, TextLibrary().Text(1000, L"of one letter").file());
+
+    EXPECT_EQ(Title(L".."), L"above");
+    EXPECT_EQ(Title(L".\\"), L"beside");
+    EXPECT_EQ(Title(L"a\\"), L"of one letter");
+    EXPECT_EQ(Title(L"A/"), L"of one letter");
+    EXPECT_EQ(Title(L"b\\"), L"boiler");
+    EXPECT_EQ(Title(L"?*"), L"boiler");
+}
+
+TEST_F(TextLanguage, IsTheUsersOwnForEverybodyWhoNamesNone)
+{
+    WriteBytes(roots.logName(L"X"), XmlFile(L"LogName", {}, Links(TitleLink(L"1000"))));
+    WriteBytes(roots.board(L"X"), BoardFile(Links(TitleLink(L"1000"))));
+    WriteBytes(roots.protocol(L"X"), ProtocolFile(Links(TitleLink(L"1000"))));
+    const UserLanguage user(L"de-DE", library.module());
+
+    EXPECT_EQ(TextOf([&](wchar_t* text, std::uint32_t* length) {
+                  return library.PGSP_LogNameGetResourceStringBL(L"X", L"Title", nullptr, text, length, 1);
+              }),
+              L"Kessel");
+    EXPECT_EQ(TextOf([&](wchar_t* text, std::uint32_t* length) {
+                  return library.PGSP_BoardGetResourceStringBL(L"X", L"Title", nullptr, text, length, 1);
+              }),
+              L"Kessel");
+    EXPECT_EQ(TextOf([&](wchar_t* text, std::uint32_t* length) {
+                  return library.PGSP_TemplateGetResourceStringBL(L"Protocols", L"X", L"Title", nullptr, text,
+                                                                  length, 1);
+              }),
+              L"Kessel");
+}
+
 } // namespace
 } // namespace norvepa::test

@@ -1,4 +1,5 @@
 #include "TextScene.h"
+#include "support/CurrentFolder.h"
 #include "support/UserLanguage.h"
 
 #include <windows.h>
@@ -121,6 +122,19 @@ TEST_F(TextLibraryPlace, IsNowhereForVariablesThatAreNotThere)
     EXPECT_EQ(TitleBy(L"%NORV_TEST_GONE%\\bin"), NoLibrary);
 }
 
+// It leads where a path without a root leads: below the current folder.
+TEST_F(TextLibraryPlace, IsTheCurrentFolderForVariablesThatLeadToNothing)
+{
+    const CurrentFolder current;
+    SetVariable(L"NORV_TEST_TEXTS", L"");
+    EXPECT_EQ(TitleBy(L"%NORV_TEST_TEXTS%"), NoLibrary);
+    WriteBytes(current / (L"en\\" + TexteDll), TextLibrary().Text(1000, L"right here").file());
+    EXPECT_EQ(TitleBy(L"%NORV_TEST_TEXTS%"), L"right here");
+    WriteBytes(current / (L"de\\" + TexteDll), TextLibrary().Text(1000, L"gleich hier").file());
+
+    EXPECT_EQ(TitleBy(L"%NORV_TEST_TEXTS%"), L"gleich hier");
+}
+
 TEST_F(TextLibraryPlace, MayHoldAPercentSignOfItsOwn)
 {
     const std::wstring root = roots.folder() / L"50% off";
@@ -183,48 +197,6 @@ TEST_F(TextLibraryPlace, OfEnglishIsMeasuredOnItsOwn)
 
     EXPECT_EQ(TitleBy(within, nullptr), L"far away");
     EXPECT_EQ(TitleBy(beyond, nullptr), NoLibrary);
-}
-
-TEST_F(TextLibraryPlace, OfANameWithABackslashIsNowhere)
-{
-    WriteBytes(bin() + L"\\de\\sub\\" + TexteDll, TextLibrary().Text(1000, L"below").file());
-    for (const wchar_t* const assembly :
-         {L"sub\\Texte.dll", L"..\\de\\Texte.dll", L"\\Texte.dll", L"Texte.dll\\", L"\\"})
-    {
-        WriteDevice({.name = L"Title", .assembly = assembly, .path = L"", .resourceId = L"1000"});
-
-        EXPECT_EQ(Title(), NoLibrary) << ToUtf8(assembly);
-    }
-}
-
-TEST_F(TextLibraryPlace, OfNoNameIsNotTheLibraryThatIsNamedLikeItsFolder)
-{
-    for (const wchar_t* const language : {L"de", L"en"})
-    {
-        std::filesystem::remove_all(bin() + L"\\" + language);
-        WriteBytes(bin() + L"\\" + language + L".dll", TextLibrary().Text(1000, L"not meant").file());
-    }
-    WriteDevice({.name = L"Title", .assembly = L"", .path = L"", .resourceId = L"1000"});
-
-    EXPECT_EQ(Title(), NoLibrary);
-}
-
-TEST_F(TextLibraryPlace, OfNoNameIsNowhereThoughAFolderIsNamedLikeALibrary)
-{
-    for (const wchar_t* const language : {L"de", L"en"})
-    {
-        WriteBytes(bin() + L"\\" + language + L".dll", TextLibrary().Text(1000, L"not meant").file());
-        WriteBytes(bin() + L"\\" + language + L"\\.dll", TextLibrary().Text(1000, L"not meant").file());
-    }
-    for (const wchar_t* const assembly : {L"", L"sub\\Texte.dll"})
-    {
-        WriteDevice({.name = L"Title", .assembly = assembly, .path = L"", .resourceId = L"1000"});
-
-        EXPECT_EQ(Title(), NoLibrary) << ToUtf8(assembly);
-    }
-
-    WriteDevice({.name = L"Title", .path = L"", .resourceId = L"1000"});
-    EXPECT_EQ(Title(), NoLibrary);
 }
 
 } // namespace

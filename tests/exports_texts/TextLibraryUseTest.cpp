@@ -1,5 +1,6 @@
 #include "TextScene.h"
 #include "support/AllAtOnce.h"
+#include "support/FileWriter.h"
 #include "support/ProgramStart.h"
 
 #include <windows.h>
@@ -53,6 +54,25 @@ TEST_F(TextLibraryUse, LeavesAFileThatIsNoLibraryToOthers)
     EXPECT_EQ(Title(L"de"), L"boiler");
 
     EXPECT_TRUE(CanBeDeleted(german));
+}
+
+TEST_F(TextLibraryUse, IsThatOfEnglishWhileSomebodyWritesTheOther)
+{
+    {
+        const FileWriter writer(bin() + L"\\de\\" + TexteDll);
+
+        EXPECT_EQ(Title(L"de"), L"boiler");
+    }
+
+    EXPECT_EQ(Title(L"de"), L"Kessel");
+}
+
+TEST_F(TextLibraryUse, IsNoneWhileSomebodyWritesEnglishToo)
+{
+    const FileWriter german(bin() + L"\\de\\" + TexteDll);
+    const FileWriter english(bin() + L"\\en\\" + TexteDll);
+
+    EXPECT_EQ(Title(L"de"), Failed(PGSP_ERR_CANT_LOAD_DLL));
 }
 
 TEST_F(TextLibraryUse, IsThatOfADamagedLibraryWithoutHarm)

@@ -27,6 +27,12 @@ protected:
                                                          length, 1)};
     }
 
+    // As number 1000.
+    void WriteGermanText(std::wstring_view text) const
+    {
+        WriteBytes(bin() + L"\\de\\" + TexteDll, TextLibrary().Text(1000, text).file());
+    }
+
     // Asked of the log device, of which a test may take something away.
     [[nodiscard]] std::int32_t Ask(wchar_t* value, std::uint32_t* length,
                                    const wchar_t* device = L"Presse") const
@@ -61,7 +67,7 @@ TEST_F(TextOutput, OfATextThatDoesNotFitIsItsLengthAlone)
 TEST_F(TextOutput, OfALongTextIsWhole)
 {
     const std::wstring story(65535, L'\u00FC');
-    WriteBytes(bin() + L"\\de\\" + TexteDll, TextLibrary().Text(1000, story).file());
+    WriteGermanText(story);
     OutputBuffer tooShort(65535);
     OutputBuffer longEnough(65536);
 
@@ -72,6 +78,32 @@ TEST_F(TextOutput, OfALongTextIsWhole)
     EXPECT_EQ(tooShort.length, 65535U);
     EXPECT_EQ(longEnough.text(), story);
     EXPECT_EQ(longEnough.length, 65535U);
+}
+
+TEST_F(TextOutput, OfATextThatHoldsATerminatorEndsThereAndHasTheLengthOfTheWhole)
+{
+    WriteGermanText({L"Kes\0sel", 7});
+    OutputBuffer tooShort(7);
+    OutputBuffer longEnough(8);
+
+    EXPECT_EQ(Ask(tooShort.data(), &tooShort.length), PGSP_ERR_BUFFER_TOO_SHORT);
+    EXPECT_EQ(Ask(longEnough.data(), &longEnough.length), PGSP_OK);
+
+    EXPECT_TRUE(tooShort.isUntouched());
+    EXPECT_EQ(tooShort.length, 7U);
+    EXPECT_EQ(longEnough.text(), L"Kes");
+    EXPECT_EQ(longEnough.length, 7U);
+}
+
+TEST_F(TextOutput, OfATextThatIsATerminatorAloneIsEmpty)
+{
+    WriteGermanText({L"\0", 1});
+    OutputBuffer text(2);
+
+    EXPECT_EQ(Ask(text.data(), &text.length), PGSP_OK);
+
+    EXPECT_EQ(text.text(), L"");
+    EXPECT_EQ(text.length, 1U);
 }
 
 TEST_F(TextOutput, IsTheSameForAllThatHaveTexts)

@@ -1,4 +1,5 @@
 #include "TextTraceScene.h"
+#include "support/CurrentFolder.h"
 #include "support/TextLibrary.h"
 #include "support/UserLanguage.h"
 
@@ -73,6 +74,22 @@ TEST_F(TextLibraryTrace, OfVariablesTellsThemAndWhereTheyLead)
                 ElementsAre(EntryOf(deviceFile()),
                             Info("Search for ExpandEnvironmentStrings = ", L"%NORV_TEST_TEXTS%"),
                             Info("Using ExpandEnvironmentStrings = ", Library(elsewhere)), Success));
+}
+
+TEST_F(TextLibraryTrace, OfVariablesThatLeadToNothingTellsAPathWithoutARoot)
+{
+    const CurrentFolder current;
+    SetEnvironmentVariableW(L"NORV_TEST_TEXTS", L"");
+    WriteDevice(L"%NORV_TEST_TEXTS%");
+    Load();
+
+    EXPECT_EQ(Ask(), PGSP_ERR_CANT_LOAD_DLL);
+
+    EXPECT_THAT(LinesOfLoad(),
+                ElementsAre(EntryOf(deviceFile()),
+                            Info("Search for ExpandEnvironmentStrings = ", L"%NORV_TEST_TEXTS%"),
+                            Info("Using ExpandEnvironmentStrings = ", L"de\\Texte.dll"),
+                            CanNotLoad("exit", L"de\\Texte.dll"), CanNotLoad("warning", L"en\\Texte.dll")));
 }
 
 TEST_F(TextLibraryTrace, OfVariablesThatLeadTooFarTellsTheUsualPlace)
