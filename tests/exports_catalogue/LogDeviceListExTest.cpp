@@ -1,4 +1,5 @@
 #include "CatalogueScene.h"
+#include "support/Eventually.h"
 #include "support/ListBuffer.h"
 
 namespace norvepa::test
@@ -80,6 +81,17 @@ TEST_F(LogDeviceListEx, HoldsHiddenOnesToo)
                LogDeviceFile(XmlContent().Element(L"Ndi", XmlContent().Text(L"hidden", L"true"))));
 
     EXPECT_THAT(Ask(L"CP_TYPE", L"MPI", Equal), ElementsAre(L"Ofen"));
+}
+
+// Its name is empty, and a log device without a name has no values.
+TEST_F(LogDeviceListEx, LeavesOutAFileThatIsCalledByItsExtensionAlone)
+{
+    WriteDevice(L"", XmlContent().Text(L"Halle", L"Nord"));
+    EXPECT_EQ(ResultOf(L"Halle", L"Nord", Equal), PGSP_ERR_NO_MORE_ITEMS);
+
+    WriteDevice(L"Ofen", XmlContent().Text(L"Halle", L"Nord"));
+    EXPECT_TRUE(Eventually([&] { return ResultOf(L"Halle", L"Nord", Equal) == PGSP_OK; }));
+    EXPECT_THAT(Ask(L"Halle", L"Nord", Equal), ElementsAre(L"Ofen"));
 }
 
 TEST_F(LogDeviceListEx, IsEmptyForAnyOtherMode)

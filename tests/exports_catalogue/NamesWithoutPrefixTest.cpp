@@ -41,6 +41,16 @@ TEST_F(NamesWithoutPrefix, AreTheDeviceIdsOfBoardsFromWhereverABoardHasThem)
     EXPECT_THAT(All(L"Boards"), ElementsAre(L"installed"));
 }
 
+// A file without the prefix is looked up by the name with it.
+TEST_F(NamesWithoutPrefix, AreTheDeviceIdsOfTheBoardsWithThePrefixForFilesWithoutToo)
+{
+    WriteBytes(roots.board(L"X"), BoardFile({}, L"with"));
+    WriteBytes(roots.program() + L"\\meta\\Boards\\X.xml", BoardFile({}, L"without"));
+    WriteBytes(roots.program() + L"\\meta\\Boards\\Y.xml", BoardFile({}, L"alone"));
+
+    EXPECT_THAT(All(L"Boards"), UnorderedElementsAre(L"with", L"with", L"Y"));
+}
+
 TEST_F(NamesWithoutPrefix, AreEmptyForAnEmptyDeviceId)
 {
     WriteBytes(roots.board(L"X"), BoardFile({}, L""));

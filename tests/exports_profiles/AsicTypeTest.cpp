@@ -159,6 +159,41 @@ TEST_F(AsicType, NeedsABufferOfOneCharacterMore)
     EXPECT_EQ(oneMore.length, 6U);
 }
 
+// What doesn't fit isn't there, but for the last place.
+TEST_F(AsicType, IsNotFoundWhereItDoesNotFitAndIsNotAmongTheAttributes)
+{
+    store.WriteDevice(L"Presse", {});
+    for (const std::string& board :
+         {XmlFile(L"Device", {{L"Asic_Type", L"ASPC 2"}}, {}), BoardFile(Asic(L"Install", L"ASPC 2"))})
+    {
+        WriteBytes(roots.board(L"AFK110"), board);
+        for (const std::uint32_t capacity : {0U, 6U})
+        {
+            OutputBuffer asic(capacity);
+
+            EXPECT_EQ(Ask(asic), PGSP_ERR_PARAM_NOT_FOUND);
+
+            EXPECT_TRUE(asic.isUntouched());
+            EXPECT_EQ(asic.length, capacity);
+        }
+        EXPECT_EQ(Text(), L"ASPC 2");
+    }
+}
+
+TEST_F(AsicType, IsTheFirstThatFits)
+{
+    store.WriteDevice(L"Presse", {});
+    WriteBytes(roots.board(L"AFK110"),
+               XmlFile(L"Device", {{L"Asic_Type", L"a long one"}},
+                       Asic(L"Install", L"too long").Raw(Asic(L"BoardAttributes", L"short").utf8())));
+    OutputBuffer asic(6);
+
+    EXPECT_EQ(Ask(asic), PGSP_OK);
+
+    EXPECT_EQ(asic.text(), L"short");
+    EXPECT_EQ(asic.length, 5U);
+}
+
 TEST_F(AsicType, TellsTheLengthThatALengthOfZeroAsksFor)
 {
     WriteBoth(L"AFK110", L"AFK110", L"ASPC 2");

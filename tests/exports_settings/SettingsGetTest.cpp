@@ -127,6 +127,19 @@ TEST_F(SettingsGet, KnowsNamesInAnyCase)
     EXPECT_EQ(Setting(L"lastchangedate"), L"2");
 }
 
+TEST_F(SettingsGet, KnowsSectionsInAnyCase)
+{
+    WriteSettingsBytes(XmlFile(L"PGSP", {},
+                               XmlContent()
+                                   .Element(L"pgsp_section", Language(L"common"))
+                                   .Element(L"UPDATES", XmlContent().Text(L"Version", L"8.2"))
+                                   .Element(L"datetimesection", XmlContent().Text(L"Start", L"heute"))));
+
+    EXPECT_EQ(Setting(L"Language"), L"common");
+    EXPECT_EQ(Setting(L"Version"), L"8.2");
+    EXPECT_EQ(Setting(L"Start"), L"heute");
+}
+
 TEST_F(SettingsGet, FindsEntriesOfEveryKind)
 {
     WriteSettings(

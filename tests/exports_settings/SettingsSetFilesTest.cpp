@@ -1,4 +1,5 @@
 #include "SettingsScene.h"
+#include "support/Answers.h"
 #include "support/FreshThread.h"
 #include "support/OpenFile.h"
 
@@ -76,6 +77,37 @@ TEST_F(SettingsSetFiles, MakesNoFolder)
     EXPECT_EQ(SetSetting(L"Language", L"Deutsch"), PGSP_ERR_CANT_CREATE_FILE);
 
     EXPECT_FALSE(Exists(roots.data()));
+}
+
+// Below such a root the file has no extension of its own; but only one with it would be known to be there
+// already.
+TEST_F(SettingsSetFiles, MakesTheFileAnewForEachValueBelowARootThatHoldsTheExtension)
+{
+    const std::wstring folder = roots.folder() / L"old.xml\\data";
+    MakeFolders(folder);
+    SetMachineText(LocationsKey, L"Corvane_Oam_Data", roots.folder() / L"old.xml");
+
+    EXPECT_EQ(SetSetting(L"Language", L"Deutsch"), PGSP_OK);
+    EXPECT_EQ(Setting(L"Language"), L"Deutsch");
+    EXPECT_EQ(SetSetting(L"Plant", L"Auental"), PGSP_OK);
+    EXPECT_EQ(Setting(L"Plant"), L"Auental");
+
+    EXPECT_EQ(Setting(L"Language"), Failed(PGSP_ERR_PARAM_NOT_FOUND));
+    EXPECT_THAT(FileNames(folder), testing::ElementsAre(L"PGSP"));
+}
+
+TEST_F(SettingsSetFiles, KeepsTheFileBelowARootThatHoldsTheExtensionWhereOneWithItIsThereToo)
+{
+    const std::wstring folder = roots.folder() / L"old.xml\\data";
+    WriteBytes(folder + L"\\PGSP.xml", "whatever it is");
+    WriteBytes(folder + L"\\PGSP", SettingsFile(XmlContent().Text(L"Language", L"Deutsch")));
+    SetMachineText(LocationsKey, L"Corvane_Oam_Data", roots.folder() / L"old.xml");
+
+    EXPECT_EQ(SetSetting(L"Plant", L"Auental"), PGSP_OK);
+
+    EXPECT_EQ(Setting(L"Language"), L"Deutsch");
+    EXPECT_EQ(Setting(L"Plant"), L"Auental");
+    EXPECT_EQ(ReadBytes(folder + L"\\PGSP.xml"), "whatever it is");
 }
 
 TEST_F(SettingsSetFiles, NeedsTheDataFolder)

@@ -1,4 +1,5 @@
 #include "SettingsScene.h"
+#include "support/Answers.h"
 
 namespace norvepa::test
 {
@@ -127,6 +128,17 @@ TEST_F(SettingsSet, OfTheSameValueWritesNothing)
         ExpectSettingsKept(L"LANGUAGE", L"DEUTSCH", PGSP_OK);
         ExpectSettingsKept(L"LastChangeDate", L"Heute", PGSP_OK);
     }
+}
+
+// Whether an empty value can be read is told by how the engine writes it: with two tags or with one.
+TEST_F(SettingsSet, MakesAnEmptyValueThatIsReadByItsTags)
+{
+    EXPECT_EQ(SetSetting(L"Plant", L""), PGSP_OK);
+
+    ExpectNewFile({.common = XmlContent().Text(L"Plant", L"")});
+    const bool hasTwoTags = SettingsBytes().find("</Value>") != std::string::npos;
+    EXPECT_EQ(Setting(L"Plant"), hasTwoTags ? L"" : Failed(PGSP_ERR_PARAM_NOT_FOUND));
+    ExpectSettingsKept(L"Plant", L"", PGSP_OK);
 }
 
 TEST_F(SettingsSet, AlwaysWritesATextAndPassesOverEntriesOfOtherKinds)

@@ -155,6 +155,16 @@ TEST_F(TemplateKeyExists, TellsANameThatIsTooLongWhereItIsEscaped)
               PGSP_ERR_CANT_LOAD_XML_FILE);
 }
 
+TEST_F(TemplateKeyExists, TellsAMissingRootAheadOfANameThatIsTooLong)
+{
+    TakeProgramFolderAway();
+
+    for (const wchar_t* const folder : {L"Boards", L"Protocols", L"DefaultLogDevices", L"Own"})
+    {
+        EXPECT_EQ(KeyExists(folder, std::wstring(260, L'n'), L"Constraints"), PGSP_ERR_FOLDER_NOT_FOUND);
+    }
+}
+
 // An extension in capitals is one in small letters where the name is lowered.
 TEST_F(TemplateKeyExists, KnowsTheExtensionInCapitalsWhereTheNameIsLowered)
 {

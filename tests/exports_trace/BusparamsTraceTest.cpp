@@ -132,6 +132,67 @@ TEST_F(BusparamsTrace, OfL2WithTheUsersOwnProfileIsItsOwnAlone)
     EXPECT_THAT(LinesOf("SendNotificationBL"), IsEmpty());
 }
 
+TEST_F(BusparamsTrace, OfL2TellsTheWayBackOfItsProfileAndNotOfTheSpeed)
+{
+    WriteDevice(L"9600", L"1", L"L2");
+    Load();
+
+    EXPECT_EQ(SetSpeed(L"19200"), PGSP_PROFILE_NO_VALUE);
+
+    std::vector<std::string> lines{"entry: >> LogDevice = Presse, Value = 19200", Set("busparam", "1")};
+    AddSet(lines, "busparam", "1");
+    lines.insert(lines.end(),
+                 {"entry: >> LogDevice = Presse, Profile = L2, Parameter = busparam", OfAnotherParameter,
+                  AskForTheCollection, "information: while NorvXMLEnumSubProfile", NoValue});
+    AddSet(lines, "busparam", "1");
+    lines.insert(lines.end(), {NoValue, "exit: << return lRet = 8062"});
+    EXPECT_THAT(Lines(), ElementsAreArray(lines));
+}
+
+TEST_F(BusparamsTrace, OfL2WithASpeedThatIsNoNumberIsItsOwnAlone)
+{
+    WriteDevice(L"9600", L"1", L"L2");
+    Load();
+
+    EXPECT_EQ(SetSpeed(L"fast"), PGSP_ERR_INVALID_PARAMETERS);
+
+    EXPECT_THAT(Lines(),
+                ElementsAre("entry: >> LogDevice = Presse, Value = fast", "exit: << return lRet = 87"));
+}
+
+// That the value derived is refused is told, and then that the speed is set.
+TEST_F(BusparamsTrace, OfMpiTellsARefusalOfWhatIsDerivedAndSucceeds)
+{
+    WriteBytes(
+        roots.board(L"X"),
+        BoardFile(
+            Catalogue().Parameter(L"ttr", {{L"type", L"int"}, {L"min", L"0"}, {L"max", L"133"}}).content()));
+    WriteDevice(L"1200", L"1", L"MPI");
+    Load();
+
+    EXPECT_EQ(SetSpeed(L"9600"), PGSP_OK);
+
+    std::vector<std::string> lines = Lines();
+    ASSERT_GE(lines.size(), 5U);
+    lines.erase(lines.begin(), lines.end() - 5);
+    EXPECT_THAT(lines, ElementsAre("exit: << return PGSP_OK", "exit: << return lRet = 0", Set("ttr", "134"),
+                                   "exit: << return lRet = 8056", "exit: << return lRet = 0"));
+}
+
+// It isn't the speed's own failure: without the folder the read of the protocol is none.
+TEST_F(BusparamsTrace, WithoutTheDataFolderIsThatOfADeviceWithoutASpeed)
+{
+    WriteDevice(L"9600", L"1", L"L2");
+    TakeDataFolderAway();
+    Load();
+
+    EXPECT_EQ(SetSpeed(L"19200"), PGSP_ERR_PARAM_NOT_FOUND);
+
+    EXPECT_THAT(Lines(),
+                ElementsAre("entry: >> LogDevice = Presse, Value = 19200", Set("baudrate", "19200"),
+                            "exit: << return PGSP_ERR_PARAM_NOT_FOUND", "exit: << return lRet = 8513"));
+}
+
 TEST_F(BusparamsTrace, OfADeviceWithoutASpeedSaysThatItIsNotFound)
 {
     store.WriteDevice(L"Presse", {}, L"X", L"P");

@@ -166,10 +166,24 @@ TEST_F(DelVmdIdTrace, OfAnyOtherNameIsTheRefusal)
     Load();
 
     EXPECT_EQ(library().LogDeviceDelVmdIdBL(nullptr), PGSP_ERR_INVALID_PARAMETERS);
+    EXPECT_EQ(library().LogDeviceDelVmdIdBL(L""), PGSP_ERR_INVALID_PARAMETERS);
     EXPECT_EQ(library().LogDeviceDelVmdIdBL(L"pc internal"), PGSP_ERR_INVALID_PARAMETERS);
 
     EXPECT_THAT(LinesOf("LogDeviceDelVmdIdBL"),
-                ElementsAre("entry: >> LogDevice = ", Refusal, "entry: >> LogDevice = pc internal", Refusal));
+                ElementsAre("entry: >> LogDevice = ", Refusal, "entry: >> LogDevice = ", Refusal,
+                            "entry: >> LogDevice = pc internal", Refusal));
+}
+
+TEST_F(DelVmdIdTrace, OfAPathThatIsTooLongTellsTheStoresCode)
+{
+    Load();
+    const std::wstring identity = L"PC internal" + std::wstring(249, L'n');
+
+    EXPECT_EQ(library().LogDeviceDelVmdIdBL(identity.c_str()), PGSP_ERR_BUFFER_TOO_SHORT);
+
+    EXPECT_THAT(LinesOf("LogDeviceDelVmdIdBL"),
+                ElementsAre(testing::StartsWith("entry: >> LogDevice = PC internalnnn"),
+                            "exit: << return lRet = 234"));
 }
 
 TEST_F(DelVmdIdTrace, WithoutTheDataFolderNamesIt)

@@ -56,32 +56,6 @@ TEST_F(FolderListTrace, OfTheDataFolderHasNoEntry)
                                                              "exit: << return PGSP_ERR_BUFFER_TOO_SHORT"));
 }
 
-TEST_F(FolderListTrace, OfLogDevicesByAValueTellsTheComparisonsAndItsResultAsANumber)
-{
-    const auto inHall = [](const wchar_t* hall) {
-        return LogDeviceFile(XmlContent().Element(L"DeviceHeader", XmlContent().Text(L"Halle", hall)));
-    };
-    WriteBytes(roots.logDevice(L"Ofen"), inHall(L"Nord"));
-    Load();
-    length = 300;
-    EXPECT_EQ(library().PGSP_GetLogDeviceListExBL(L"Halle", L"NORD", 1, buffer, &length), PGSP_OK);
-    length = 300;
-    EXPECT_EQ(library().PGSP_GetLogDeviceListExBL(L"Halle", L"West", 2, buffer, &length), PGSP_OK);
-    length = 300;
-    EXPECT_EQ(library().PGSP_GetLogDeviceListExBL(L"Halle", L"West", 1, buffer, &length),
-              PGSP_ERR_NO_MORE_ITEMS);
-    EXPECT_EQ(library().PGSP_GetLogDeviceListExBL(L"", L"West", 1, buffer, &length),
-              PGSP_ERR_INVALID_PARAMETERS);
-
-    EXPECT_THAT(LinesOf("PGSP_GetLogDeviceListExBL"),
-                testing::IsSupersetOf({"information: EntryName = Halle  EntryValue = NORD",
-                                       "information: Equal: foundValue = Nord  EntryValue = NORD",
-                                       "information: Unequal: foundValue = Nord  EntryValue = West",
-                                       "exit: << return 0x0", "exit: << return 0x103",
-                                       "information: EntryName =   EntryValue = West",
-                                       "exit: << return PGSP_ERR_INVALID_PARAMETERS"}));
-}
-
 TEST_F(FolderListTrace, OfANameTellsItItsLengthAndTheCallersIndex)
 {
     WriteBytes(roots.protocol(L"Y"), ProtocolFile({}));

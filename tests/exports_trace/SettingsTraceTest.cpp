@@ -69,6 +69,18 @@ TEST_F(SettingsTrace, OfASettingThatIsNotThereTellsTheBufferNoFurtherThanItGoes)
         ElementsAre("entry: >> Parameter = gone", "exit: << return lRet = 8513, Value = bef, dwValue = 3"));
 }
 
+TEST_F(SettingsTrace, OfASettingThatDoesNotFitTellsTheBufferAndTheLengthThatIsNeeded)
+{
+    Load();
+    length = 2;
+
+    EXPECT_EQ(library().GetValueInPGSP_BL(L"a", buffer, &length), PGSP_ERR_BUFFER_TOO_SHORT);
+
+    EXPECT_THAT(
+        LinesOf("GetValueInPGSP_BL"),
+        ElementsAre("entry: >> Parameter = a", "exit: << return lRet = 234, Value = be, dwValue = 3"));
+}
+
 TEST_F(SettingsTrace, OfASetIsArgumentsAndResultWhetherAnythingChangesOrNot)
 {
     Load();
@@ -117,6 +129,18 @@ TEST_F(SettingsTrace, OfDataThatDoNotFitHasNoExit)
 
     EXPECT_THAT(LinesOf("PGSP_GetParameterMetaDataBL"),
                 ElementsAre("entry: >> Folder = data, Subfolder = Werte, File = F, Parameter = a"));
+}
+
+TEST_F(SettingsTrace, OfDataBelowAPathThatIsTooLongHasNoExit)
+{
+    Load();
+    const std::wstring file(260, L'n');
+
+    EXPECT_EQ(library().PGSP_GetParameterMetaDataBL(L"data", L"", file.c_str(), L"a", buffer, &length),
+              PGSP_ERR_BUFFER_TOO_SHORT);
+
+    EXPECT_THAT(LinesOf("PGSP_GetParameterMetaDataBL"),
+                ElementsAre(testing::StartsWith("entry: >> Folder = data, Subfolder = , File = nnn")));
 }
 
 TEST_F(SettingsTrace, OfAPairIsArgumentsAndResult)
@@ -170,12 +194,15 @@ TEST_F(SettingsTrace, OfDataWithBadArgumentsBeginsWithTheEntry)
     Load();
 
     EXPECT_EQ(Get(nullptr, L"a"), PGSP_ERR_INVALID_PARAMETERS);
+    EXPECT_EQ(library().PGSP_GetParameterMetaDataBL(L"data", L"Werte", L"F", L"a", nullptr, nullptr),
+              PGSP_ERR_INVALID_PARAMETERS);
     EXPECT_EQ(Pair(L"", 0), PGSP_ERR_INVALID_PARAMETERS);
     EXPECT_EQ(Set(L"F", nullptr), PGSP_ERR_INVALID_PARAMETERS);
     EXPECT_EQ(Del(nullptr), PGSP_ERR_INVALID_PARAMETERS);
 
     EXPECT_THAT(LinesOf("PGSP_GetParameterMetaDataBL"),
-                ElementsAre("entry: >> Folder = , Subfolder = Werte, File = F, Parameter = a", Refusal));
+                ElementsAre("entry: >> Folder = , Subfolder = Werte, File = F, Parameter = a", Refusal,
+                            "entry: >> Folder = data, Subfolder = Werte, File = F, Parameter = a", Refusal));
     EXPECT_THAT(LinesOf("PGSP_EnumParameterMetaDataBL"),
                 ElementsAre("entry: >> Folder = , Subfolder = Werte, File = F", Refusal));
     EXPECT_THAT(LinesOf("PGSP_SetParameterDataBL"),
