@@ -18,8 +18,8 @@ namespace norvepa::test
 namespace
 {
 
-// The worker that comes first stands still within its look for the event, where it holds the registrations, until
-// it may go on.
+// The worker that comes first stands still within its look for the event, where it holds the registrations,
+// until it may go on.
 class HeldWorker
 {
 public:
