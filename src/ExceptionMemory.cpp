@@ -1,11 +1,19 @@
 #include "ExceptionMemory.h"
 
+#include <cstddef> // tells which run-time library this is
+
+#ifndef __GLIBCXX__
+
+void norvepa::MakeExceptionMemory() noexcept {}
+void norvepa::FreeExceptionMemory() noexcept {}
+
+#else
+
 #include <windows.h>
 
 #include <algorithm>
 #include <array>
 #include <atomic>
-#include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <cxxabi.h>
@@ -192,3 +200,5 @@ extern "C" void __cxa_free_exception(void* exception) noexcept
 } // namespace __cxxabiv1
 
 // NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
+
+#endif

@@ -6,6 +6,8 @@
 // that has to be made first, which takes memory: a throw for want of memory would end in itself, until the
 // stack is used up.
 //
+// With another run-time library than GNU's this does nothing: what that leaves behind is its own affair.
+//
 // Callers may rely on: a throw needs no memory of the heap, as long as the exception is small and not more
 // than 64 are under way for want of it.
 
