@@ -68,9 +68,9 @@ void Measure(const test::StoreRoots& roots)
     Expect(SUCCEEDED(document.Create()), "no document");
     document.LoadAsItStands();
     Expect(document.LoadBytes(bytes), "not loaded");
-    const auto [look, walk] = MedianNanosecondsInTurns(
-        [&] { Expect(OutlineOf(std::string_view(bytes)).has_value(), "not plain"); },
-        [&] { Expect(!OutlineOf(document).load.empty(), "nothing to load"); });
+    const auto [look, walk] =
+        MedianNanosecondsInTurns([&] { Expect(OutlineOf(std::string_view(bytes)).has_value(), "not plain"); },
+                                 [&] { Expect(!OutlineOf(document).load.empty(), "nothing to load"); });
 
     const Table table("a log device of 10,000 parameters", "to the load", bare);
     table.Row("a validated load by the bare engine", bare);
