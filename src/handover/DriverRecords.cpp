@@ -28,6 +28,7 @@ std::span<const std::byte> RecordText(std::wstring_view text) noexcept
 }
 
 DriverRecords::DriverRecords() noexcept
+    // NOLINTNEXTLINE(cppcoreguidelines-no-malloc)
     : m_buffer(static_cast<std::byte*>(std::calloc(BlockBytes, 1))), m_writePosition(m_buffer.get())
 {
 }
@@ -80,6 +81,7 @@ Result DriverRecords::Grow() noexcept
     ++m_blockCount;
     const std::uint64_t bytes = std::uint64_t{m_blockCount} * BlockBytes;
     const bool isCountable = bytes <= std::numeric_limits<std::uint32_t>::max();
+    // NOLINTNEXTLINE(cppcoreguidelines-no-malloc)
     void* const grown = isCountable ? std::realloc(m_buffer.get(), bytes) : nullptr;
     if (grown == nullptr)
     {

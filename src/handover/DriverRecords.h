@@ -56,15 +56,17 @@ public:
 private:
     static constexpr std::uint32_t BlockBytes = 1000;
 
+    // Of the C heap, which can make a block longer where it stands.
     struct Free
     {
+        // NOLINTNEXTLINE(cppcoreguidelines-no-malloc)
         void operator()(std::byte* block) const noexcept { std::free(block); }
     };
 
     [[nodiscard]] Result Put(std::span<const std::byte> field);
     [[nodiscard]] Result Grow() noexcept;
 
-    std::unique_ptr<std::byte, Free> m_buffer; // of the C heap, which can make a block longer in place
+    std::unique_ptr<std::byte, Free> m_buffer;
     std::byte* m_writePosition;
     std::uint32_t m_blockCount = 1;
     std::uint32_t m_usedBytes = 0;   // by finished records

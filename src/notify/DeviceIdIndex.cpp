@@ -12,17 +12,17 @@ constinit win::RecursiveMutex deviceIdMutex;
 namespace
 {
 
-win::Undestroyed<DeviceIdIndex> index;
+win::Undestroyed<DeviceIdIndex> theIndex;
 
 constexpr std::size_t ComparedCharacters = 260;
 
 } // namespace
 
-DeviceIdIndex& deviceIdIndex = index.get();
+DeviceIdIndex& deviceIdIndex = theIndex.get();
 
 void FreeDeviceIdIndex() noexcept
 {
-    index.Destroy();
+    theIndex.Destroy();
 }
 
 bool DeviceIdIndex::Order::operator()(std::wstring_view left, std::wstring_view right) const noexcept

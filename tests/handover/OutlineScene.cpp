@@ -107,12 +107,12 @@ std::string WithValue(std::string_view raw)
 
 void PrintTo(const PlainDocument& document, std::ostream* out)
 {
-    *out << document.bytes;
+    *out << document.name; // in one line, as lists of tests have them
 }
 
 void PrintTo(const OtherDocument& document, std::ostream* out)
 {
-    *out << document.bytes;
+    *out << document.name; // in one line, as lists of tests have them
 }
 
 } // namespace norvepa::test

@@ -58,6 +58,7 @@ bool MayBeRefused(const std::wstring& parameter, const Place& place, const std::
 std::vector<std::wstring> ParametersOf(const std::vector<NameAndValue>& values, const ValueCheck& check)
 {
     std::vector<std::wstring> parameters;
+    parameters.reserve(values.size() + check.Parameters().size());
     for (const NameAndValue& pair : values)
     {
         parameters.push_back(ToWide(pair.name));
@@ -83,7 +84,11 @@ std::vector<RefusedValue> RefusedValues(const std::string& device, const ValueCh
             continue;
         }
         const std::optional<std::string> value = StoredAt(device, place, values);
-        const int32_t result = value ? check.Check(parameter, ToWide(*value)) : PGSP_OK;
+        if (!value)
+        {
+            continue;
+        }
+        const int32_t result = check.Check(parameter, ToWide(*value));
         if (result != PGSP_OK && told.insert(ToLower(place.section + L'\\' + place.name)).second)
         {
             refused.push_back({ToUtf8(parameter), *value, result});
