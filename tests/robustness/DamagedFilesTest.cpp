@@ -15,7 +15,7 @@ using testing::Not;
 using testing::Range;
 using testing::StartsWith;
 
-constexpr std::uint32_t DamagesOfATest = 40;
+constexpr std::uint32_t DamagesOfATest = 24;
 
 // What a call with all its arguments may answer to a file that is anything. 87 and 14 would hide what went
 // wrong inside; a list says 87 of a name without a value.

@@ -77,9 +77,12 @@ std::vector<RefusedValue> RefusedValues(const std::string& device, const ValueCh
     std::set<std::wstring> told; // places: two parameters may have one in common
     for (const std::wstring& parameter : ParametersOf(values, check))
     {
-        const Place place = check.PlaceOf(parameter);
-        if (!seen.insert(ToLower(parameter)).second || !check.HasLimits(parameter) ||
-            !MayBeRefused(parameter, place, values, check))
+        if (!seen.insert(ToLower(parameter)).second || !check.HasLimits(parameter))
+        {
+            continue;
+        }
+        const Place& place = check.PlaceOf(parameter);
+        if (!MayBeRefused(parameter, place, values, check))
         {
             continue;
         }

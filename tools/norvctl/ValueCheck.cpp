@@ -30,6 +30,15 @@ std::optional<std::wstring> WordOf(const wchar_t* folder, const std::wstring& fi
     return read.result == PGSP_OK ? std::optional(ToWide(read.value)) : std::nullopt;
 }
 
+// What is known of a parameter, read when it is first asked for.
+template <typename Known, typename Read>
+const Known& ReadOnce(std::map<std::wstring, Known>& all, const std::wstring& parameter, const Read& read)
+{
+    const std::wstring key = ToLower(parameter);
+    const auto known = all.find(key);
+    return known == all.end() ? all.emplace(key, read()).first->second : known->second;
+}
+
 std::vector<std::wstring> ParametersOf(const std::wstring& board, const std::wstring& protocol)
 {
     const std::wstring ofBoard = board + L"\\ConstraintsWithDefault";
@@ -164,65 +173,70 @@ ValueCheck::ValueCheck(const std::string& deviceId, const std::string& cpType)
 
 int32_t ValueCheck::Check(const std::wstring& parameter, const std::wstring& value) const
 {
-    const ValueLimits& limits = LimitsOf(parameter);
-    if (EqualNoCase(limits.type, L"bool"))
+    const ValueType& type = TypeOf(parameter);
+    if (EqualNoCase(type.word, L"bool"))
     {
         return IsBool(value) ? PGSP_OK : PGSP_NOT_A_BOOL;
     }
-    if (!EqualNoCase(limits.type, L"int"))
+    if (!EqualNoCase(type.word, L"int"))
     {
         return PGSP_OK;
     }
     if (EqualNoCase(parameter, L"baudrate"))
     {
-        return CheckListed(value, IsBaudrate(limits, value));
+        return CheckListed(value, IsBaudrate(type, value));
     }
     if (EqualNoCase(parameter, L"l4_timeout"))
     {
-        return CheckListed(value, IsTimeout(limits, value));
+        return CheckListed(value, IsTimeout(type, value));
     }
+    const ValueLimits& limits = LimitsOf(parameter);
     return CheckInteger(limits, Replaced(limits, value));
 }
 
 bool ValueCheck::HasLimits(const std::wstring& parameter) const
 {
-    const std::wstring& type = LimitsOf(parameter).type;
+    const std::wstring& type = TypeOf(parameter).word;
     return EqualNoCase(type, L"int") || EqualNoCase(type, L"bool");
 }
 
-Place ValueCheck::PlaceOf(const std::wstring& parameter) const
+const ValueType& ValueCheck::TypeOf(const std::wstring& parameter) const
 {
-    const ValueLimits& limits = LimitsOf(parameter);
-    return {limits.section, limits.map.empty() ? parameter : limits.map};
+    return ReadOnce(m_types, parameter, [&] { return ReadType(parameter); });
+}
+
+const Place& ValueCheck::PlaceOf(const std::wstring& parameter) const
+{
+    return ReadOnce(m_places, parameter, [&] { return ReadPlace(parameter); });
 }
 
 const ValueLimits& ValueCheck::LimitsOf(const std::wstring& parameter) const
 {
-    const std::wstring key = ToLower(parameter);
-    const auto known = m_limits.find(key);
-    return known == m_limits.end() ? m_limits.emplace(key, ReadLimits(parameter)).first->second
-                                   : known->second;
+    return ReadOnce(m_limits, parameter, [&] { return ReadLimits(parameter); });
+}
+
+ValueType ValueCheck::ReadType(const std::wstring& parameter) const
+{
+    if (const auto ofBoard = WordOf(BoardsFolder, m_board, parameter, L"type"))
+    {
+        return {*ofBoard, true};
+    }
+    return {WordOf(ProtocolsFolder, m_protocol, parameter, L"type").value_or(std::wstring{}), false};
+}
+
+Place ValueCheck::ReadPlace(const std::wstring& parameter) const
+{
+    const std::wstring map = Word(parameter, L"map");
+    return {Word(parameter, L"section"), map.empty() ? parameter : map};
 }
 
 ValueLimits ValueCheck::ReadLimits(const std::wstring& parameter) const
 {
-    ValueLimits limits;
-    const auto ofBoard = WordOf(BoardsFolder, m_board, parameter, L"type");
-    const auto type = ofBoard ? ofBoard : WordOf(ProtocolsFolder, m_protocol, parameter, L"type");
-    if (!type)
-    {
-        return limits;
-    }
-    limits.areOfBoard = ofBoard.has_value();
-    limits.type = *type;
-    limits.min = Word(parameter, L"min");
-    limits.max = Word(parameter, L"max");
-    limits.step = Word(parameter, L"step");
-    limits.base = Word(parameter, L"base");
-    limits.standard = Word(parameter, L"default");
-    limits.section = Word(parameter, L"section");
-    limits.map = Word(parameter, L"map");
-    return limits;
+    return {.min = Word(parameter, L"min"),
+            .max = Word(parameter, L"max"),
+            .step = Word(parameter, L"step"),
+            .base = Word(parameter, L"base"),
+            .standard = Word(parameter, L"default")};
 }
 
 std::wstring ValueCheck::Word(const std::wstring& parameter, const wchar_t* word) const
@@ -232,18 +246,18 @@ std::wstring ValueCheck::Word(const std::wstring& parameter, const wchar_t* word
 }
 
 // The list is the board's, whichever of the two tells the type.
-bool ValueCheck::IsBaudrate(const ValueLimits& limits, const std::wstring& value) const
+bool ValueCheck::IsBaudrate(const ValueType& type, const std::wstring& value) const
 {
-    return limits.areOfBoard ? IsListed(BoardsFolder, m_board, L"Constraints\\baudrate", value)
-                             : IsSectionOfAList(m_board, value);
+    return type.isOfBoard ? IsListed(BoardsFolder, m_board, L"Constraints\\baudrate", value)
+                          : IsSectionOfAList(m_board, value);
 }
 
-bool ValueCheck::IsTimeout(const ValueLimits& limits, const std::wstring& value) const
+bool ValueCheck::IsTimeout(const ValueType& type, const std::wstring& value) const
 {
     constexpr wchar_t list[] = L"Constraints\\l4_timeout";
 
-    return limits.areOfBoard ? IsListed(BoardsFolder, m_board, list, value)
-                             : IsListed(ProtocolsFolder, m_protocol, list, value);
+    return type.isOfBoard ? IsListed(BoardsFolder, m_board, list, value)
+                          : IsListed(ProtocolsFolder, m_protocol, list, value);
 }
 
 } // namespace norvctl

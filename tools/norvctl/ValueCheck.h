@@ -15,11 +15,15 @@ namespace norvctl
 inline constexpr wchar_t BoardPrefix[] = L"Automation-OnlineAccess-BT-";
 inline constexpr wchar_t ProtocolPrefix[] = L"Automation-OnlineAccess-PT-";
 
-// What the catalogue says of a parameter; what it doesn't say is empty.
+// What the catalogue says of a parameter's values; what it doesn't say is empty.
+struct ValueType
+{
+    std::wstring word;
+    bool isOfBoard = false;
+};
 struct ValueLimits
 {
-    bool areOfBoard = false; // the type is
-    std::wstring type, min, max, step, base, standard, section, map;
+    std::wstring min, max, step, base, standard;
 };
 
 // Where a log device keeps a parameter.
@@ -43,23 +47,31 @@ public:
     // False for a parameter that takes any value.
     [[nodiscard]] bool HasLimits(const std::wstring& parameter) const;
 
-    [[nodiscard]] Place PlaceOf(const std::wstring& parameter) const;
+    [[nodiscard]] const Place& PlaceOf(const std::wstring& parameter) const;
 
     // Parameters that both files tell of, with repetitions. A file tells of those ahead of the first one that
     // has no default.
     [[nodiscard]] const std::vector<std::wstring>& Parameters() const { return m_parameters; }
 
 private:
+    [[nodiscard]] const ValueType& TypeOf(const std::wstring& parameter) const;
     [[nodiscard]] const ValueLimits& LimitsOf(const std::wstring& parameter) const;
+    [[nodiscard]] ValueType ReadType(const std::wstring& parameter) const;
+    [[nodiscard]] Place ReadPlace(const std::wstring& parameter) const;
     [[nodiscard]] ValueLimits ReadLimits(const std::wstring& parameter) const;
     [[nodiscard]] std::wstring Word(const std::wstring& parameter, const wchar_t* word) const;
-    [[nodiscard]] bool IsBaudrate(const ValueLimits& limits, const std::wstring& value) const;
-    [[nodiscard]] bool IsTimeout(const ValueLimits& limits, const std::wstring& value) const;
+    [[nodiscard]] bool IsBaudrate(const ValueType& type, const std::wstring& value) const;
+    [[nodiscard]] bool IsTimeout(const ValueType& type, const std::wstring& value) const;
 
     std::wstring m_board; // the names of the files
     std::wstring m_protocol;
     std::vector<std::wstring> m_parameters;
-    mutable std::map<std::wstring, ValueLimits> m_limits; // by the parameter in small letters
+
+    // By the parameter in small letters. Each word costs a look at both files, so that none is read ahead of its
+    // need.
+    mutable std::map<std::wstring, ValueType> m_types;
+    mutable std::map<std::wstring, Place> m_places;
+    mutable std::map<std::wstring, ValueLimits> m_limits;
 };
 
 } // namespace norvctl
