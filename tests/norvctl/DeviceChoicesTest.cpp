@@ -1,5 +1,5 @@
-#include "SampleChange.h"
 #include "support/Norvctl.h"
+#include "support/SampleChange.h"
 
 #include <nlohmann/json.hpp>
 #include <string>

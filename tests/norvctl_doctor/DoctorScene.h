@@ -2,8 +2,8 @@
 
 // A sample store with nothing wrong in it, for a test to damage in one way.
 
-#include "SampleChange.h"
 #include "support/Norvctl.h"
+#include "support/SampleChange.h"
 
 #include <filesystem>
 #include <nlohmann/json.hpp>
