@@ -804,10 +804,10 @@ int32_t LogDeviceGetParamDescBL(const wchar_t* LogDevice, const wchar_t* Paramet
                                 wchar_t* Value, uint32_t* dwValue);
 
 /*
- * Hands out a stored file in pieces of the caller's size, for callers who can't read it themselves. At index 0
- * the file is read whole; that index and those behind it are then answered from a copy of the library's own,
- * which goes with the last piece. What stands between a ">" and the next character that isn't a blank, a tab or
- * a line end is left out, and a zero byte follows the last character; it counts.
+ * Hands out a stored file in pieces of the caller's size, for callers who can't read it themselves. At index
+ * 0 the file is read whole; that index and those behind it are then answered from a copy of the library's
+ * own, which goes with the last piece. What stands between a ">" and the next character that isn't a blank, a
+ * tab or a line end is left out, and a zero byte follows the last character; it counts.
  *
  *   clientId   in      whose transfer this is, of the caller's choice. Two transfers of one file need two ids
  *   kind       in      which file: 1 a log name, 2 a log device, 3 a board, 4 a template, 5 a protocol; any
@@ -815,8 +815,8 @@ int32_t LogDeviceGetParamDescBL(const wchar_t* LogDevice, const wchar_t* Paramet
  *   name       in      its name, with or without the prefix of its kind; a "*" at its start is dropped
  *   index      in      which piece, from 0
  *   buffer     out     buffer for the piece
- *   bufferLen  in/out  in: the length of a piece in bytes, the same at each index. Out: how many bytes of buffer
- *                      are set; bytes, not characters
+ *   bufferLen  in/out  in: the length of a piece, the same at each index. Out: how much of buffer is set. In
+ *                      bytes, not in characters
  *
  * PGSP_OK                      the last piece
  * PGSP_ERR_BUFFER_TOO_SHORT    a whole piece, and more is to come: ask for the next index. Also, with nothing
@@ -825,16 +825,16 @@ int32_t LogDeviceGetParamDescBL(const wchar_t* LogDevice, const wchar_t* Paramet
  *                              transfer is under way, or it has no such piece, and is over
  * PGSP_ERR_INVALID_PARAMETERS  name, buffer or bufferLen is null, or the name is empty or "*" alone
  *
- * A reader who stops half way leaves the copy behind until the same client asks for index 0 of the same file, or
- * until the library is unloaded.
+ * A reader who stops half way leaves the copy behind until the same client asks for index 0 of the same file,
+ * or until the library is unloaded.
  */
 int32_t LogDeviceGetXmlBL(uint32_t clientId, uint16_t kind, const wchar_t* name, uint32_t index,
                           uint8_t* buffer, uint32_t* bufferLen);
 
 /*
  * Reads a log device as its driver is to receive it: the file is loaded and checked by its schema, and the
- * parameters of the sections that its Load element names are written as records, in the order of Load. Needs COM
- * on the calling thread.
+ * parameters of the sections that its Load element names are written as records, in the order of Load. Needs
+ * COM on the calling thread.
  *
  *   LogDevice  in   the log device; as a whole, so that neither a "*" nor a backslash in it means anything
  *   outBuffer  out  the records; to be released by the caller with GlobalFree

@@ -2,8 +2,8 @@
 
 // Who may use the named objects of the trace: authenticated users, whichever of them has made them.
 //
-// Callers may rely on: nothing here fails. What can't be made is told to the debugger, and the objects then get
-// what could be. Callers must: keep it for as long as the trace has its attributes.
+// Callers may rely on: nothing here fails. What can't be made is told to the debugger, and the objects then
+// get what could be. Callers must: keep it for as long as the trace has its attributes.
 
 #include <windows.h>
 

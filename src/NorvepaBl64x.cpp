@@ -77,8 +77,8 @@ BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID processEnds)
         norvepa::MakeExceptionMemory();
         return norvepa::theApp.InitInstance();
     }
-    // A process that ends takes everything along. Its other threads have been stopped wherever they were: no lock
-    // is waited for, and nothing that they may have been changing is touched.
+    // A process that ends takes everything along. Its other threads have been stopped wherever they were: no
+    // lock is waited for, and nothing that they may have been changing is touched.
     if (reason == DLL_PROCESS_DETACH && processEnds == nullptr)
     {
         norvepa::theApp.ExitInstance();

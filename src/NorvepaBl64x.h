@@ -5,8 +5,9 @@
 namespace norvepa
 {
 
-// One global instance exists. Its two operations run under the loader's lock: neither starts a thread or waits for
-// one to end, and whatever goes wrong in the first is told to the debugger and doesn't stop the load.
+// One global instance exists. Its two operations run under the loader's lock: neither starts a thread or
+// waits for one to end, and whatever goes wrong in the first is told to the debugger and doesn't stop the
+// load.
 class CNorvepaBl64xApp
 {
 public:

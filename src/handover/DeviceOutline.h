@@ -37,8 +37,8 @@ inline constexpr std::array<EntryWord, 3> EntryWords{{{"Parameter", DriverType::
                                                       {"ParameterInt", DriverType::Integer},
                                                       {"ParameterBool", DriverType::Boolean}}};
 
-// The type that an entry's element word stands for; none for any other element. Of either width, since one way
-// to an outline meets it in each.
+// The type that an entry's element word stands for; none for any other element. Of either width, since one
+// way to an outline meets it in each.
 template <typename Character>
 [[nodiscard]] std::optional<DriverType> DriverTypeOf(std::basic_string_view<Character> word) noexcept
 {
@@ -85,8 +85,8 @@ struct DeviceOutline
 // Asks the engine node by node.
 [[nodiscard]] DeviceOutline OutlineOf(const Document& document);
 
-// The same from the bytes that the document was loaded from, in a twentieth of the time. None for a document that
-// has to be asked after all; see PlainReader.
+// The same from the bytes that the document was loaded from, in a twentieth of the time. None for a document
+// that has to be asked after all; see PlainReader.
 [[nodiscard]] std::optional<DeviceOutline> OutlineOf(std::string_view bytes);
 
 } // namespace norvepa

@@ -34,8 +34,8 @@ SectionWords WordsOf(std::wstring_view entry)
     return {entry, NoSection, NoSection};
 }
 
-// Writes the sections of an outline as they are asked for. What a parameter leaves out is what the one ahead of
-// it had, in whichever section that was.
+// Writes the sections of an outline as they are asked for. What a parameter leaves out is what the one ahead
+// of it had, in whichever section that was.
 class RecordWalk
 {
 public:

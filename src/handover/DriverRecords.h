@@ -1,7 +1,7 @@
 #pragma once
 
-// The stream in which a driver receives its parameters: records one behind the other, without header, count or
-// end. All numbers are little-endian; texts are UTF-16 without a terminator.
+// The stream in which a driver receives its parameters: records one behind the other, without header, count
+// or end. All numbers are little-endian; texts are UTF-16 without a terminator.
 //
 //   0      2  length of the record, these two bytes included
 //   2      1  length of the name in bytes
@@ -11,8 +11,8 @@
 //   5 + n  1  length of the value in bytes
 //   6 + n  m  value: a signed number of 32 bits, an unsigned 1 or 0 of 32 bits, or a text
 //
-// The two lengths are 8 bits wide: a text of 128 characters counts as empty, one of 130 as two characters long,
-// and only what the length tells is written. Drivers read it so; it isn't to be widened.
+// The two lengths are 8 bits wide: a text of 128 characters counts as empty, one of 130 as two characters
+// long, and only what the length tells is written. Drivers read it so; it isn't to be widened.
 
 #include "frame/Result.h"
 #include "handover/DeviceOutline.h"

@@ -3,10 +3,10 @@
 // Files on their way to callers who can't read them themselves: each waits here between the pieces in which
 // its reader takes it.
 //
-// Callers may rely on: clients are kept apart by their ids, and any number of them may transfer at once. What a
-// reader gets is the file as it was stored, whatever becomes of it on disk. Callers must not: change the length
-// of a piece within a transfer, since nothing remembers it; or let one client run two transfers of one file.
-// What a reader leaves half read stays for as long as the module does, or until the client begins anew.
+// Callers may rely on: clients are kept apart by their ids, and any number of them may transfer at once. What
+// a reader gets is the file as it was stored, whatever becomes of it on disk. Callers must not: change the
+// length of a piece within a transfer, since nothing remembers it; or let one client run two transfers of one
+// file. What a reader leaves half read stays for as long as the module does, or until the client begins anew.
 
 #include "frame/Result.h"
 

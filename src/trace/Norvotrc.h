@@ -3,8 +3,8 @@
 // The trace client: one text line per event, to the output that the registry names.
 //
 // Callers may rely on: nothing here fails or throws, and nothing is torn down while the module is in the
-// process: mutex, mappings and the trace engine library stay, whatever the settings turn to. Several processes
-// may trace at once.
+// process: mutex, mappings and the trace engine library stay, whatever the settings turn to. Several
+// processes may trace at once.
 
 #include <windows.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// The locks within a process. They are constants at birth and hold nothing of the heap or the system's: a module
-// that is unloaded leaves nothing of them behind, which can't be said of the run-time library's.
+// The locks within a process. They are constants at birth and hold nothing of the heap or the system's: a
+// module that is unloaded leaves nothing of them behind, which can't be said of the run-time library's.
 //
 // Callers may rely on: nothing here fails. Callers must: lock by std::lock_guard.
 

@@ -3,8 +3,9 @@
 // A thing of the whole module that the run-time library doesn't destroy: a process that ends has stopped its
 // other threads wherever they were, and what one of them was changing is better left alone.
 //
-// Callers may rely on: the thing is there from the module's static initialisation on. Callers must: destroy it
-// themselves, once, when the module is unloaded from a process that goes on, with all other threads out of it.
+// Callers may rely on: the thing is there from the module's static initialisation on. Callers must: destroy
+// it themselves, once, when the module is unloaded from a process that goes on, with all other threads out of
+// it.
 
 #include <memory>
 #include <utility>

@@ -36,7 +36,8 @@ inline const Piece NoPiece{PGSP_ERR_NO_MORE_ITEMS};
 // A text with the zero byte that follows it.
 [[nodiscard]] std::string Terminated(std::string_view text);
 
-// A buffer of a reader's, full of a mark. It has room for what tests read, however long a piece is said to be.
+// A buffer of a reader's, full of a mark. It has room for what tests read, however long a piece is said to
+// be.
 class PieceBuffer
 {
 public:

@@ -67,8 +67,8 @@ private:
     std::wstring m_protocol;
     std::vector<std::wstring> m_parameters;
 
-    // By the parameter in small letters. Each word costs a look at both files, so that none is read ahead of its
-    // need.
+    // By the parameter in small letters. Each word costs a look at both files, so that none is read ahead of
+    // its need.
     mutable std::map<std::wstring, ValueType> m_types;
     mutable std::map<std::wstring, Place> m_places;
     mutable std::map<std::wstring, ValueLimits> m_limits;

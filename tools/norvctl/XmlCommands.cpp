@@ -40,8 +40,8 @@ using Piece = std::array<uint8_t, 4096>;
 
 constexpr uint8_t Unset = 0xFF; // no document begins with a row of these, in whatever encoding
 
-// For a name that makes too long a path the library says the same as when more is to come, and leaves the first
-// piece alone.
+// For a name that makes too long a path the library says the same as when more is to come, and leaves the
+// first piece alone.
 bool IsLeftAlone(const Piece& piece)
 {
     return std::all_of(piece.begin(), piece.end(), [](uint8_t byte) { return byte == Unset; });
