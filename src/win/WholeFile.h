@@ -2,8 +2,8 @@
 
 // A file's bytes, read at once.
 //
-// Callers may rely on: others may read and write the file meanwhile. What is cut off while it is read comes as
-// zero bytes. Callers must: expect std::bad_alloc for a file that memory can't hold.
+// Callers may rely on: others may read and write the file meanwhile. What is cut off while it is read comes
+// as zero bytes. Callers must: expect std::bad_alloc for a file that memory can't hold.
 
 #include <optional>
 #include <string>
