@@ -1,5 +1,7 @@
 #include "BareEngines.h"
 
+#include "win/Handle.h"
+
 #include <windows.h>
 #include <comutil.h>
 #include <msxml2.h>
@@ -106,6 +108,18 @@ ComPtr<IXMLDOMNode> FindValue(IXMLDOMDocument2& document, const std::wstring& pa
     return node;
 }
 
+win::Handle WriteOver(const std::wstring& file, std::string_view bytes)
+{
+    win::Handle handle(CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS,
+                                   FILE_ATTRIBUTE_NORMAL, nullptr));
+    DWORD written = 0;
+    Require(handle &&
+                WriteFile(handle.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
+                written == bytes.size(),
+            "not written");
+    return handle;
+}
+
 } // namespace
 
 std::wstring ReadWithXmlLite(const std::wstring& file, const std::wstring& parameter)
@@ -196,6 +210,17 @@ std::wstring ReadWithPrivateProfile(const std::wstring& file, const std::wstring
     GetPrivateProfileStringW(L"LocalSettings", parameter.c_str(), L"", value.data(),
                              static_cast<DWORD>(value.size()), file.c_str());
     return value.data();
+}
+
+void OverwriteFile(const std::wstring& file, std::string_view bytes)
+{
+    static_cast<void>(WriteOver(file, bytes));
+}
+
+void OverwriteFileAndFlush(const std::wstring& file, std::string_view bytes)
+{
+    const win::Handle handle = WriteOver(file, bytes);
+    Require(FlushFileBuffers(handle.get()) != FALSE, "not flushed");
 }
 
 } // namespace norvepa::bench

@@ -3,6 +3,7 @@
 // What one would write without the library: the system's engines used for one thing and nothing else.
 
 #include <string>
+#include <string_view>
 
 namespace norvepa::bench
 {
@@ -27,5 +28,9 @@ void ValidateWithMsxml(const std::wstring& schema, const std::wstring& namespace
 [[nodiscard]] std::wstring ReadWithRegistry(const std::wstring& key, const std::wstring& parameter);
 
 [[nodiscard]] std::wstring ReadWithPrivateProfile(const std::wstring& file, const std::wstring& parameter);
+
+// All bytes of the file by one write; and the same, at the end of which they are on the disk.
+void OverwriteFile(const std::wstring& file, std::string_view bytes);
+void OverwriteFileAndFlush(const std::wstring& file, std::string_view bytes);
 
 } // namespace norvepa::bench

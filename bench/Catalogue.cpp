@@ -2,13 +2,12 @@
 // and parsing beside a bare pass of the same engine over the same file.
 
 #include "BareEngines.h"
+#include "CatalogueQuestions.h"
 #include "PlantStore.h"
 #include "Stopwatch.h"
 #include "Table.h"
 #include "Throughput.h"
-#include "catalogue/norvxmlCatalogue.h"
 #include "frame/Text.h"
-#include "meta/cMetaFiles.h"
 #include "support/TemporaryFolder.h"
 
 #include <array>
@@ -21,37 +20,12 @@ namespace
 using namespace norvepa;
 using namespace norvepa::bench;
 
-const std::wstring parameter = ParameterName(ParametersOfADevice - 1);
-const std::wstring key = L"Constraints\\" + parameter;
-
 void Require(bool isRight)
 {
     if (!isRight)
     {
         throw std::runtime_error("another answer than expected");
     }
-}
-
-void AskCollection(const std::wstring& file, std::wstring& item)
-{
-    Require(NorvXMLEnumValueCollectionRaw(file.c_str(), key.c_str(), 3, &item) == PGSP_OK &&
-            item == L"100/schnell");
-}
-
-void AskSection(const std::wstring& file)
-{
-    wchar_t name[64];
-    wchar_t value[64];
-    uint32_t nameLength = 64;
-    uint32_t valueLength = 64;
-    Require(NorvXMLEnumProtocolParameter(file.c_str(), parameter.c_str(), 0,
-                                         {name, &nameLength, value, &valueLength}) == PGSP_OK);
-}
-
-void AskConstraint(const std::wstring& file, std::wstring& value)
-{
-    Require(NorvXMLGetConstraint(file.c_str(), parameter.c_str(), L"max", &value) == PGSP_OK &&
-            value == L"1000000");
 }
 
 // As much of a thread's own work as a question, or about that: what the machine gives a second thread that
@@ -79,12 +53,6 @@ void TellWhatASecondThreadIsWorth(const std::wstring& file)
     TellThroughput("item of a section", [&](std::wstring&) { AskSection(file); });
     TellThroughput("constraint from the memo", [&](std::wstring& value) { AskConstraint(file, value); });
     TellThroughput("nothing of the catalogue's, nothing shared", [](std::wstring&) { CompareOwnTexts(); });
-}
-
-void Parse(const std::wstring& file)
-{
-    MetaDropDocument(file);
-    Require(MetaGetDocument(file) != nullptr);
 }
 
 } // namespace

@@ -79,6 +79,11 @@ std::wstring PlantStore::devicePath(std::size_t number) const
     return m_roots.logDevice(deviceName(number));
 }
 
+std::wstring PlantStore::logNamePath(const std::wstring& name) const
+{
+    return m_roots.logName(name);
+}
+
 std::wstring PlantStore::protocolPath() const
 {
     return m_roots.protocol(NetType);

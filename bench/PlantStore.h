@@ -26,7 +26,8 @@ public:
     explicit PlantStore(std::size_t devices, std::size_t parameters = ParametersOfADevice);
 
     [[nodiscard]] static std::wstring deviceName(std::size_t number);
-    [[nodiscard]] std::wstring devicePath(std::size_t number) const;         // of its file
+    [[nodiscard]] std::wstring devicePath(std::size_t number) const; // of its file
+    [[nodiscard]] std::wstring logNamePath(const std::wstring& name) const;
     [[nodiscard]] std::wstring protocolPath() const;                         // of the one protocol's file
     [[nodiscard]] std::wstring protocolPath(const std::wstring& name) const; // of another one's
     [[nodiscard]] std::wstring folder() const { return m_roots.folder().path(); }

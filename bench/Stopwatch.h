@@ -32,6 +32,28 @@ template <typename Body>
     return passed.count();
 }
 
+// A body that needs something done ahead of each of its runs, which isn't timed.
+template <typename Preparation, typename Body>
+struct Behind
+{
+    Preparation prepare;
+    Body body;
+};
+template <typename Preparation, typename Body>
+Behind(Preparation, Body) -> Behind<Preparation, Body>;
+
+template <typename Preparation, typename Body>
+[[nodiscard]] double NanosecondsOfRuns(const Behind<Preparation, Body>& prepared, std::uint64_t runs)
+{
+    double nanoseconds = 0;
+    for (std::uint64_t i = 0; i < runs; ++i)
+    {
+        prepared.prepare();
+        nanoseconds += NanosecondsOfRuns(prepared.body, 1);
+    }
+    return nanoseconds;
+}
+
 inline constexpr std::size_t MedianRounds = 11;
 
 template <typename Body>
