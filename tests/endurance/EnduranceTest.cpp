@@ -1,9 +1,10 @@
 #include "endurance/Endurance.h"
 
+#include "support/Environment.h"
+
 #include <array>
 #include <chrono>
 #include <cstdio>
-#include <cstdlib>
 #include <gmock/gmock.h>
 #include <numeric>
 #include <string>
@@ -39,12 +40,6 @@ constexpr std::int64_t MoreBlocks = 300;
 
 constexpr Life Short{3, std::chrono::seconds(3), 20};
 constexpr std::uint32_t CardsOfALongLife = 150;
-
-unsigned long long FromEnvironment(const char* name, unsigned long long otherwise)
-{
-    const char* const text = std::getenv(name);
-    return text == nullptr ? otherwise : std::strtoull(text, nullptr, 10);
-}
 
 Life ChosenLife()
 {
