@@ -1,7 +1,7 @@
 #pragma once
 
 // What a writer that was killed has left of a store: whether each file that there was at first is whole, and
-// what lies beside, counted by its kind. What isn't as it ought to be is mended, so that the next one may come.
+// what lies beside, counted by its kind. What isn't as it ought to be is mended, so that the next may come.
 
 #include "support/LoadedLibrary.h"
 #include "support/StoreRoots.h"

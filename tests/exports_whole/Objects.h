@@ -1,8 +1,8 @@
 #pragma once
 
 // The log device and the log name that are changed here while others read them. Their files are larger than
-// what an engine reads or writes in one piece. A text near the beginning is now short and now long, so that all
-// behind it moves, and the last entry tells whether the end is there.
+// what an engine reads or writes in one piece. A text near the beginning is now short and now long, so that
+// all behind it moves, and the last entry tells whether the end is there.
 
 #include "support/StoreRoots.h"
 
