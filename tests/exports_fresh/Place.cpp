@@ -9,6 +9,17 @@
 namespace norvepa::test
 {
 
+Place::Place()
+{
+    const XmlContent hidden = XmlContent().Bool(L"hidden", L"true");
+    for (int number = 1; number <= 12; ++number)
+    {
+        const std::wstring name = L"Abseits " + std::to_wstring(number);
+        store.WriteDevice(name, XmlContent().Element(L"Ndi", hidden));
+        WriteBytes(roots.logName(name), LogNameFile(hidden));
+    }
+}
+
 Place::~Place()
 {
     library.NorvepaBl64x_deinit(); // a folder that is watched can't be removed

@@ -2,6 +2,9 @@
 
 // A store, the library loaded on it, and a second process that edits the same store. They are made once for a
 // suite: its files have to grow old before anybody asks for them.
+//
+// A dozen hidden log devices and log names stand ahead of all others, so that each enumeration is one of many
+// files: what is read of few may be read of many in another way.
 
 #include "support/DeviceStore.h"
 #include "support/LoadedLibrary.h"
@@ -17,7 +20,7 @@ namespace norvepa::test
 
 struct Place
 {
-    Place() = default;
+    Place();
     Place(const Place&) = delete;
     Place& operator=(const Place&) = delete;
     ~Place();
