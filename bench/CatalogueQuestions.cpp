@@ -3,6 +3,7 @@
 #include "PlantStore.h"
 #include "catalogue/norvxmlCatalogue.h"
 #include "meta/cMetaFiles.h"
+#include "xml/ImageCache.h"
 
 #include <stdexcept>
 
@@ -50,6 +51,7 @@ void AskConstraint(const std::wstring& file, std::wstring& value)
 void Parse(const std::wstring& file)
 {
     MetaDropDocument(file);
+    DropImages();
     Require(MetaGetDocument(file) != nullptr);
 }
 

@@ -2,6 +2,7 @@
 
 #include "ExceptionMemory.h"
 #include "ModuleSecurity.h"
+#include "frame/CallScope.h"
 #include "handover/norvepaFileCache.h"
 #include "meta/CachedMetaFile.h"
 #include "meta/cEpaBlCache.h"
@@ -10,6 +11,7 @@
 #include "notify/NotifyRegistration.h"
 #include "notify/directoryCache.h"
 #include "trace/Norvotrc.h"
+#include "xml/ImageCache.h"
 
 #include <windows.h>
 #include <objbase.h>
@@ -50,11 +52,13 @@ CNorvepaBl64xApp theApp;
 // What the module would otherwise leave behind in a process that goes on without it, the youngest first.
 void GiveBack() noexcept
 {
+    FreeCallScopes();
     FreeDirectoryCache();
     FreeConstraints();
     FreeFileCache();
     MetaFreeAnswers();
     MetaFreeDocuments();
+    FreeImages();
     TraceEnd();
     moduleSecurity.Free();
     FreeExceptionMemory();
@@ -67,6 +71,7 @@ void GiveBack() noexcept
 void NorvepaBl64x_deinit(void)
 {
     norvepa::MetaDropAllDocuments();
+    norvepa::DropImages();
     norvepa::deinitWatchDirectories();
 }
 

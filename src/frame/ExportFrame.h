@@ -7,6 +7,7 @@
 // through one of the exits named here or a trace of their own. A function that takes such an exit for several
 // exports hands the place of its own call down to it, so that a trace tells the line of the export that left.
 
+#include "frame/CallScope.h"
 #include "frame/Result.h"
 #include "trace/TraceStatement.h"
 
@@ -40,6 +41,7 @@ template <typename Body>
                                 TracePlace place = TracePlace::current()) noexcept
 {
     const ExportFrame frame{tag};
+    const CallScope scope;
     try
     {
         return body(frame);

@@ -1,11 +1,13 @@
 #include "frame/StoreLocations.h"
 
+#include "frame/CallScope.h"
 #include "frame/PathText.h"
 #include "win/RegistryKey.h"
 
 #include <windows.h>
 #include <shlobj.h>
 
+#include <optional>
 #include <sys/stat.h>
 
 namespace norvepa
@@ -46,29 +48,80 @@ std::wstring FixedFolderBelow(int shellFolder)
     return IsFolder(path) ? path : std::wstring{};
 }
 
+std::optional<std::wstring> ReadRoot(const win::RegistryKey& key, const Root& root)
+{
+    return key ? key.ReadAnyAsText(root.registryValue, RootValueLimit) : std::nullopt;
+}
+
+std::optional<std::wstring> RegisteredRoot(const Root& root)
+{
+    CallScope* const call = CallScope::Current();
+    if (call == nullptr)
+    {
+        return ReadRoot(win::RegistryKey::OpenForReading(HKEY_LOCAL_MACHINE, LocationsKey), root);
+    }
+    if (!call->locationsKey)
+    {
+        call->locationsKey = win::RegistryKey::OpenForReading(HKEY_LOCAL_MACHINE, LocationsKey);
+    }
+    return ReadRoot(*call->locationsKey, root);
+}
+
 std::wstring FindRoot(const Root& root)
 {
-    const win::RegistryKey key = win::RegistryKey::OpenForReading(HKEY_LOCAL_MACHINE, LocationsKey);
-    if (key)
+    if (auto path = RegisteredRoot(root))
     {
-        if (auto path = key.ReadAnyAsText(root.registryValue, RootValueLimit))
-        {
-            return *std::move(path);
-        }
+        return *std::move(path);
     }
     return FixedFolderBelow(root.shellFolder);
+}
+
+// The root once more, or as it was found when a walk first wanted it.
+std::wstring FindRoot(const Root& root, std::optional<std::wstring> CallScope::*standing)
+{
+    CallScope* const call = CallScope::Current();
+    if (call == nullptr || !call->rootsStand)
+    {
+        return FindRoot(root);
+    }
+    std::optional<std::wstring>& path = call->*standing;
+    if (!path)
+    {
+        path = FindRoot(root);
+    }
+    return *path;
 }
 
 } // namespace
 
 std::wstring GetDataFolder()
 {
-    return FindRoot(DataRoot);
+    return FindRoot(DataRoot, &CallScope::dataFolder);
 }
 
 std::wstring GetProgramFolder()
 {
-    return FindRoot(ProgramRoot);
+    return FindRoot(ProgramRoot, &CallScope::programFolder);
+}
+
+StandingRoots::StandingRoots() noexcept : m_call(CallScope::Current())
+{
+    if (m_call != nullptr && !m_call->rootsStand)
+    {
+        m_call->rootsStand = true;
+        return;
+    }
+    m_call = nullptr; // there is no call, or a walk around this one has them stand
+}
+
+StandingRoots::~StandingRoots()
+{
+    if (m_call != nullptr)
+    {
+        m_call->rootsStand = false;
+        m_call->dataFolder.reset();
+        m_call->programFolder.reset();
+    }
 }
 
 std::wstring JoinPath(std::wstring_view first, std::wstring_view second)

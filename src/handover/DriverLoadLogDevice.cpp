@@ -74,7 +74,7 @@ Result DriverLoadLogDevice(DriverReadContext& context, const wchar_t* logDeviceN
     {
         return PGSP_ERR_CANT_CREATE_XML_ENGINE;
     }
-    if (!schema.Load(MakeStoreFolder(programFolder, L"Schemes", SchemaName) + L".xsd"))
+    if (!schema.LoadWithNeighbours(MakeStoreFolder(programFolder, L"Schemes", SchemaName) + L".xsd"))
     {
         return PGSP_ERR_CANT_LOAD_SCHEMA;
     }
@@ -85,7 +85,7 @@ Result DriverLoadLogDevice(DriverReadContext& context, const wchar_t* logDeviceN
         return PGSP_ERR_CANT_CREATE_XML_ENGINE;
     }
     if (!LoadAndKeep(context,
-                     MakeStoreFolder(dataFolder, L"data", L"LogDevices") + L'\\' + escaped + L".xml"))
+                     JoinPath(MakeStoreFolder(dataFolder, L"data", L"LogDevices"), escaped) + L".xml"))
     {
         return PGSP_ERR_CANT_LOAD_XML_FILE;
     }

@@ -1,6 +1,6 @@
 #include "handover/norvepaFileCache.h"
 
-#include "meta/Published.h"
+#include "win/Published.h"
 #include "win/Undestroyed.h"
 
 #include <algorithm>
@@ -23,8 +23,8 @@ using ItemList = std::vector<Item>; // in the order in which they were stored
 using FileCacheMap = std::map<std::uint32_t, ItemList>; // by the client's id
 
 // Ahead of the cache itself, which empties it when it goes.
-win::Undestroyed<Published<FileCacheMap>> clients;
-Published<FileCacheMap>& fileCacheMap = clients.get();
+win::Undestroyed<win::Published<FileCacheMap>> clients;
+win::Published<FileCacheMap>& fileCacheMap = clients.get();
 win::Undestroyed<norvepaFileCache> fileCache;
 
 wchar_t AsciiLower(wchar_t character) noexcept

@@ -2,8 +2,8 @@
 
 #include "frame/Text.h"
 #include "meta/GrowingList.h"
-#include "meta/Published.h"
 #include "trace/TraceStatement.h"
+#include "win/Published.h"
 #include "win/Undestroyed.h"
 
 #include <algorithm>
@@ -34,8 +34,8 @@ struct CachedMetaFile
 
 using FileList = std::vector<std::shared_ptr<CachedMetaFile>>;
 
-win::Undestroyed<Published<FileList>> files;
-Published<FileList>& cachedFiles = files.get();
+win::Undestroyed<win::Published<FileList>> files;
+win::Published<FileList>& cachedFiles = files.get();
 
 // Null when there is none. What is found stays for good: no file is ever taken out of the list.
 CachedMetaFile* FindFile(const FileList& list, std::wstring_view filePath)

@@ -15,8 +15,8 @@ namespace
 using Link = std::shared_ptr<const cEpaBlCache>;
 using CacheList = std::vector<Link>;
 
-win::Undestroyed<Published<CacheList>> caches;
-Published<CacheList>& cacheList = caches.get();
+win::Undestroyed<win::Published<CacheList>> caches;
+win::Published<CacheList>& cacheList = caches.get();
 
 template <typename List> // constant or not
 auto FindFile(List& list, std::wstring_view filePath)
@@ -46,7 +46,7 @@ void Replace(CacheList& list, cEpaBlCache&& cache)
 
 } // namespace
 
-Borrowed<const Answer> MetaCacheFind(std::wstring_view filePath, std::wstring_view key, AnswerKind kind)
+win::Borrowed<const Answer> MetaCacheFind(std::wstring_view filePath, std::wstring_view key, AnswerKind kind)
 {
     auto list = cacheList.Get();
     const auto file = FindFile(*list, filePath);

@@ -7,7 +7,7 @@
 // MetaCacheDropFile.
 
 #include "frame/Result.h"
-#include "meta/Published.h"
+#include "win/Published.h"
 
 #include <cstdint>
 #include <map>
@@ -47,8 +47,8 @@ struct cEpaBlCache
 inline constexpr Result NotInCache{-1};
 
 // Null when the answer isn't there.
-[[nodiscard]] Borrowed<const Answer> MetaCacheFind(std::wstring_view filePath, std::wstring_view key,
-                                                   AnswerKind kind);
+[[nodiscard]] win::Borrowed<const Answer> MetaCacheFind(std::wstring_view filePath, std::wstring_view key,
+                                                        AnswerKind kind);
 
 // PGSP_OK, or NotInCache when the file's first answer of this kind has this key. Only the first is looked at:
 // who stores has just looked for the key and not found it.

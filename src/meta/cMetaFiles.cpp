@@ -17,8 +17,8 @@ namespace
 using Link = std::shared_ptr<const cMetaFiles>;
 using DocumentList = std::vector<Link>;
 
-win::Undestroyed<Published<DocumentList>> documents;
-Published<DocumentList>& documentList = documents.get();
+win::Undestroyed<win::Published<DocumentList>> documents;
+win::Published<DocumentList>& documentList = documents.get();
 
 auto FindLink(const DocumentList& list, std::wstring_view filePath)
 {
@@ -27,7 +27,7 @@ auto FindLink(const DocumentList& list, std::wstring_view filePath)
 }
 
 // Null when the list doesn't hold the file.
-MetaDocument RootOf(Borrowed<const DocumentList> list, std::wstring_view filePath)
+MetaDocument RootOf(win::Borrowed<const DocumentList> list, std::wstring_view filePath)
 {
     const auto known = FindLink(*list, filePath);
     return known == list->end() ? nullptr : std::move(list).Along((*known)->root());

@@ -8,8 +8,8 @@
 // until the document was dropped.
 
 #include "frame/Result.h"
-#include "meta/Published.h"
 #include "meta/cEpaBlXmlParser.h"
+#include "win/Published.h"
 
 #include <string>
 #include <string_view>
@@ -38,7 +38,7 @@ private:
 };
 
 // A document's root, borrowed with its tree.
-using MetaDocument = Borrowed<const cEpaBlElement>;
+using MetaDocument = win::Borrowed<const cEpaBlElement>;
 
 // The document of a file, parsed at the first call. ".xml" is added by the anywhere rule, and the name on
 // disk is the escaped one. Null when the file can't be opened or holds nothing that is known, of which

@@ -78,7 +78,7 @@ Result NorvXMLValidateFile(const wchar_t* fileName, const wchar_t* schemaName, c
     {
         return result;
     }
-    if (!schema.Load(MakeStoreFolder(programFolder, L"Schemes", schemaName) + L".xsd"))
+    if (!schema.LoadWithNeighbours(MakeStoreFolder(programFolder, L"Schemes", schemaName) + L".xsd"))
     {
         return PGSP_ERR_CANT_LOAD_SCHEMA;
     }
@@ -132,16 +132,9 @@ Result NorvXMLCommitTemp(const wchar_t* fileName, const wchar_t* schemaName, con
         return validation;
     }
 
-    // Between the two the file exists as the temporary one alone: nothing that needs memory stands there.
     const std::wstring real = JoinPath(folderPath, fileName);
-    const Renaming renaming(temporary.c_str(), real.c_str());
-    const Result deletion = NorvXMLDeleteFile(real.c_str());
-    if (deletion == PGSP_OK)
-    {
-        static_cast<void>(renaming.Run());
-    }
-    // Any other failure of the deletion, and one of the renaming, are not told.
-    return deletion == PGSP_ERR_CANT_DELETE_FILE ? deletion : PGSP_OK;
+    const Result replacing = Replacing(temporary.c_str(), real.c_str()).Run();
+    return replacing == PGSP_ERR_CANT_DELETE_FILE ? replacing : PGSP_OK; // no other failure is told
 }
 
 Result CommitDeletion(const std::wstring& folderPath, const wchar_t* fileName, const wchar_t* schemaName,

@@ -1,17 +1,16 @@
 #include "BuildSettings.h"
 #include "frame/Arguments.h"
 #include "store/Kinds.h"
-#include "store/ProvisionalFile.h"
 #include "store/PullWalk.h"
 #include "store/norvxml.h"
 #include "trace/TraceStatement.h"
-#include "win/Handle.h"
+#include "win/NewFile.h"
+#include "xml/CallImages.h"
 #include "xml/Document.h"
-
-#include <windows.h>
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <span>
 
 namespace norvepa
@@ -19,6 +18,8 @@ namespace norvepa
 
 namespace
 {
+
+constexpr TraceSource source{"NorvXMLCreateFile: ", "XML"};
 
 constexpr std::wstring_view InstanceNamespace = L"http://www.w3.org/2001/XMLSchema-instance";
 
@@ -48,14 +49,6 @@ constexpr std::array<FormRow, 4> FormTable{{
     {L"pgsp", L"PGSP", {}, SettingsSections},
 }};
 
-// True when the file could be opened for writing; it is then there and empty.
-bool MakeEmptyFile(const std::wstring& file)
-{
-    const win::Handle handle(CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                         nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-    return static_cast<bool>(handle);
-}
-
 // The engine writes the root's own xmlns, ahead of these, from the namespace that the root was made in.
 bool NameSchema(const Node& root, const FormRow& form)
 {
@@ -80,12 +73,30 @@ bool Build(const FormRow& form, const Document& document)
            document.Append(document.CreateComment(CreatedFileNotice));
 }
 
+Result Fill(const win::NewFile& file, std::wstring_view kind)
+{
+    Document document;
+    if (FAILED(document.Create()))
+    {
+        NORV_TRACE(source, TraceInfo, "ERROR : CreateInstance");
+        return PGSP_ERR_CANT_CREATE_XML_ENGINE;
+    }
+
+    const auto form = std::find_if(FormTable.begin(), FormTable.end(),
+                                   [=](const FormRow& each) { return each.kind == kind; });
+    const auto bytes = form != FormTable.end() && Build(*form, document) ? document.Bytes() : std::nullopt;
+    if (!bytes || !file.Write(*bytes))
+    {
+        file.Empty();
+        return PGSP_ERR_CANT_CREATE_FILE;
+    }
+    return PGSP_OK;
+}
+
 } // namespace
 
 Result NorvXMLCreateFile(const wchar_t* filePath, const wchar_t* fileKind)
 {
-    constexpr TraceSource source{"NorvXMLCreateFile: ", "XML"};
-
     NORV_TRACE(source, TraceEntry, ">> filePath = %s", TraceToAnsi(filePath));
     if (IsMissing(filePath))
     {
@@ -101,24 +112,16 @@ Result NorvXMLCreateFile(const wchar_t* filePath, const wchar_t* fileKind)
         return result;
     }
 
-    if (!MakeEmptyFile(file))
+    ForgetImages();
+    win::NewFile made = win::NewFile::CreateOrEmpty(file);
+    if (!made)
     {
         NORV_TRACE(source, TraceInfo, "can't create file");
         return PGSP_ERR_CANT_CREATE_FILE;
     }
-    const ProvisionalFile provisional(file);
-    Document document;
-    if (FAILED(document.Create()))
-    {
-        NORV_TRACE(source, TraceInfo, "ERROR : CreateInstance");
-        return PGSP_ERR_CANT_CREATE_XML_ENGINE;
-    }
-
-    const std::wstring_view kind = TextOrEmpty(fileKind);
-    const auto form = std::find_if(FormTable.begin(), FormTable.end(),
-                                   [=](const FormRow& each) { return each.kind == kind; });
-    const bool saved = form != FormTable.end() && Build(*form, document) && document.Save(file);
-    return saved ? PGSP_OK : PGSP_ERR_CANT_CREATE_FILE;
+    const Result result = Fill(made, TextOrEmpty(fileKind));
+    static_cast<void>(made.Keep()); // also when it has stayed empty
+    return result;
 }
 
 } // namespace norvepa

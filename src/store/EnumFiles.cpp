@@ -1,44 +1,67 @@
 #include "frame/Arguments.h"
 #include "frame/FileNames.h"
 #include "frame/StoreLocations.h"
-#include "notify/directoryCache.h"
+#include "store/FileWalk.h"
 #include "store/norvxml.h"
 #include "trace/TraceStatement.h"
+
+#include <utility>
 
 namespace norvepa
 {
 
-Result NorvXMLEnumFile(const wchar_t* folderPath, std::uint32_t index, std::wstring* name)
+namespace
 {
-    return NorvXMLEnumFile(folderPath, GetDataFolder(), index, name);
+
+constexpr TraceSource source{"NorvXMLEnumFile: ", "XML"};
+
+// Only for the length: a folder is listed by the name that it was given.
+Result TestByEscaping(const std::wstring& folderPath)
+{
+    std::wstring escaped;
+    return EscapePath(folderPath.c_str(), escaped);
 }
 
-Result NorvXMLEnumFile(const wchar_t* folderPath, const std::wstring& dataFolder, std::uint32_t index,
-                       std::wstring* name)
-{
-    constexpr TraceSource source{"NorvXMLEnumFile: ", "XML"};
+} // namespace
 
-    NORV_TRACE(source, TraceEntry, ">> folderPath = %s, index = %d", TraceToAnsi(folderPath), index);
+Result NorvXMLEnumFile(const wchar_t* folderPath, std::uint32_t index, std::wstring* name)
+{
     if (IsMissing(folderPath) || name == nullptr)
     {
+        NORV_TRACE(source, TraceEntry, ">> folderPath = %s, index = %d", TraceToAnsi(folderPath), index);
         return PGSP_ERR_INVALID_PARAMETERS;
     }
+    return FileWalk(folderPath, GetDataFolder()).At(index, name);
+}
 
-    // Escaping only tests the length here: a folder is listed by the name that it was given.
-    std::wstring escaped;
-    if (const Result result = EscapePath(folderPath, escaped); result != PGSP_OK)
+FileWalk::FileWalk(std::wstring folderPath, std::wstring dataFolder)
+    : m_folderPath(std::move(folderPath)),
+      m_dataFolder(std::move(dataFolder)),
+      m_escaping(TestByEscaping(m_folderPath))
+{
+}
+
+Result FileWalk::At(std::uint32_t index, std::wstring* name)
+{
+    NORV_TRACE(source, TraceEntry, ">> folderPath = %s, index = %d", TraceToAnsi(m_folderPath.c_str()),
+               index);
+    if (m_escaping != PGSP_OK)
     {
-        return result;
+        return m_escaping;
     }
 
     // A folder that can't be read is one without files.
-    std::shared_ptr<const DirectoryListing> listing;
-    if (getDirectoryContent(folderPath, dataFolder, listing) != PGSP_OK || index >= listing->size())
+    if (m_listing == nullptr && getDirectoryContent(m_folderPath, m_dataFolder, m_listing) != PGSP_OK)
+    {
+        m_listing = nullptr;
+        return PGSP_ERR_NO_MORE_ITEMS;
+    }
+    if (index >= m_listing->size())
     {
         return PGSP_ERR_NO_MORE_ITEMS;
     }
 
-    *name = (*listing)[index];
+    *name = (*m_listing)[index];
     NORV_TRACE(source, TraceExit, "<< file = %s", TraceToAnsi(name->c_str()));
     return PGSP_OK;
 }

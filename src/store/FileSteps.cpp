@@ -5,10 +5,11 @@
 #include "frame/StoreLocations.h"
 #include "store/norvxml.h"
 #include "trace/TraceStatement.h"
+#include "win/OpenWhenFree.h"
+#include "win/WholeFile.h"
+#include "xml/CallImages.h"
 
 #include <windows.h>
-
-#include <cstdio>
 
 namespace norvepa
 {
@@ -41,6 +42,30 @@ FilePair EscapeBoth(const wchar_t* sourcePath, const wchar_t* destinationPath, E
     return files;
 }
 
+bool RemoveWhenFree(const std::wstring& file) noexcept
+{
+    return win::WhenFree<win::WritersPatience>(file.c_str(), {ERROR_SHARING_VIOLATION},
+                                               [&] { return DeleteFileW(file.c_str()) != FALSE; });
+}
+
+// The system has two codes for a file in use here.
+bool MoveWhenFree(const std::wstring& from, const std::wstring& to, DWORD how) noexcept
+{
+    return win::WhenFree<win::WritersPatience>(
+        to.c_str(), {ERROR_SHARING_VIOLATION, ERROR_ACCESS_DENIED},
+        [&] { return MoveFileExW(from.c_str(), to.c_str(), how) != FALSE; });
+}
+
+// Whether a deletion would get through. Some systems replace what they wouldn't remove.
+bool CanBeRemoved(const std::wstring& file) noexcept
+{
+    constexpr win::FileUse removal{DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                   OPEN_EXISTING};
+    const DWORD attributes = GetFileAttributesW(file.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) == 0 &&
+           win::OpenWhenFree<win::WritersPatience>(file.c_str(), removal);
+}
+
 } // namespace
 
 Deletion::Deletion(const wchar_t* filePath) : m_filePath(filePath), m_escaping(EscapePath(filePath, m_file))
@@ -59,7 +84,8 @@ Result Deletion::Run() const noexcept
     }
 
     NORV_TRACE(source, TraceEntry, ">> _wremove = %s", TraceToAnsi(m_file.c_str()));
-    if (_wremove(m_file.c_str()) != 0)
+    ForgetImages();
+    if (!RemoveWhenFree(m_file))
     {
         NORV_TRACE(source, TraceEntry, "PGSP_ERR_CANT_DELETE_FILE");
         return PGSP_ERR_CANT_DELETE_FILE;
@@ -85,7 +111,8 @@ Result Copying::Run() const noexcept
 
     NORV_TRACE(source, TraceExit, " : CopyFile >> OldFile = %s, NewFile = %s",
                TraceToAnsi(m_files.oldFile.c_str()), TraceToAnsi(m_files.newFile.c_str()));
-    if (!CopyFileW(m_files.oldFile.c_str(), m_files.newFile.c_str(), TRUE))
+    ForgetImages();
+    if (!win::CopyToNewFile(m_files.oldFile, m_files.newFile))
     {
         const auto error = static_cast<int>(GetLastError());
         NORV_TRACE(source, TraceExit, "ERROR CopyFile: %d", error);
@@ -110,8 +137,40 @@ Result Renaming::Run() const noexcept
     }
 
     NORV_TRACE(source, TraceExit, " : RenameFile >> NewFile = %s", TraceToAnsi(m_files.newFile.c_str()));
-    return _wrename(m_files.oldFile.c_str(), m_files.newFile.c_str()) == 0 ? PGSP_OK
-                                                                           : PGSP_ERR_CANT_COPY_FILE;
+    ForgetImages();
+    return MoveWhenFree(m_files.oldFile, m_files.newFile, 0) ? PGSP_OK : PGSP_ERR_CANT_COPY_FILE;
+}
+
+Replacing::Replacing(const wchar_t* sourcePath, const wchar_t* destinationPath)
+    : m_destinationPath(destinationPath), m_files(EscapeBoth(sourcePath, destinationPath, &ExtendByEndRule))
+{
+}
+
+// Told as the two steps that it does at once.
+Result Replacing::Run() const noexcept
+{
+    constexpr TraceSource deletion{"NorvXMLDeleteFile: ", "XML"};
+    constexpr TraceSource renaming{"NorvXMLRenameFile: ", "XML"};
+
+    NORV_TRACE(deletion, TraceEntry, ">> filePath = %s", TraceToAnsi(m_destinationPath));
+    if (m_files.escaping != PGSP_OK)
+    {
+        return m_files.escaping;
+    }
+
+    NORV_TRACE(deletion, TraceEntry, ">> _wremove = %s", TraceToAnsi(m_files.newFile.c_str()));
+    ForgetImages();
+    constexpr DWORD inItsPlace = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    const bool replaced =
+        CanBeRemoved(m_files.newFile) && MoveWhenFree(m_files.oldFile, m_files.newFile, inItsPlace);
+    if (!replaced && !CanBeRemoved(m_files.newFile))
+    {
+        NORV_TRACE(deletion, TraceEntry, "PGSP_ERR_CANT_DELETE_FILE");
+        return PGSP_ERR_CANT_DELETE_FILE;
+    }
+    NORV_TRACE(renaming, TraceEntry, ">> destinationPath = %s", TraceToAnsi(m_destinationPath));
+    NORV_TRACE(renaming, TraceExit, " : RenameFile >> NewFile = %s", TraceToAnsi(m_files.newFile.c_str()));
+    return replaced ? PGSP_OK : PGSP_ERR_CANT_COPY_FILE;
 }
 
 Result NorvXMLDeleteFile(const wchar_t* filePath)

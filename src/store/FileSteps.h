@@ -62,4 +62,19 @@ private:
     FilePair m_files;
 };
 
+// A deletion and a renaming in one: the destination is never missing in between.
+class Replacing
+{
+public:
+    Replacing(const wchar_t* sourcePath, const wchar_t* destinationPath);
+
+    // PGSP_ERR_CANT_DELETE_FILE when the destination can't be removed, PGSP_ERR_CANT_COPY_FILE when it is the
+    // source that can't take its place: both files are then as they were.
+    [[nodiscard]] Result Run() const noexcept;
+
+private:
+    const wchar_t* m_destinationPath;
+    FilePair m_files;
+};
+
 } // namespace norvepa

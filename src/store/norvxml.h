@@ -47,10 +47,6 @@ namespace norvepa
 // and for a folder that is empty or can't be read.
 [[nodiscard]] Result NorvXMLEnumFile(const wchar_t* folderPath, std::uint32_t index, std::wstring* name);
 
-// The same for a walk, which looks up the data folder once and not at each step.
-[[nodiscard]] Result NorvXMLEnumFile(const wchar_t* folderPath, const std::wstring& dataFolder,
-                                     std::uint32_t index, std::wstring* name);
-
 // The same into a caller's buffer, by the output rule. A length of 0 is refused.
 [[nodiscard]] Result NorvXMLEnumFileName(const wchar_t* folderPath, std::uint32_t index, wchar_t* buffer,
                                          std::uint32_t* length);

@@ -19,24 +19,32 @@ std::int64_t Now() noexcept
 
 } // namespace
 
+FileStamp::FileStamp(LARGE_INTEGER size, LARGE_INTEGER written, LARGE_INTEGER changed) noexcept
+    : m_size(size.QuadPart),
+      m_written(written.QuadPart),
+      m_changed(changed.QuadPart),
+      m_age(m_changed == 0 ? 0 : Now() - std::max(m_written, m_changed))
+{
+}
+
 std::optional<FileStamp> FileStamp::Of(const std::wstring& file) noexcept
 {
     constexpr DWORD everybody = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const Handle handle(CreateFileW(file.c_str(), GENERIC_READ, everybody, nullptr, OPEN_EXISTING,
                                     FILE_ATTRIBUTE_NORMAL, nullptr));
+    return handle ? Of(handle.get()) : std::nullopt;
+}
+
+std::optional<FileStamp> FileStamp::Of(HANDLE file) noexcept
+{
     FILE_BASIC_INFO times;
     FILE_STANDARD_INFO extent;
-    if (!handle || !GetFileInformationByHandleEx(handle.get(), FileBasicInfo, &times, sizeof times) ||
-        !GetFileInformationByHandleEx(handle.get(), FileStandardInfo, &extent, sizeof extent))
+    if (!GetFileInformationByHandleEx(file, FileBasicInfo, &times, sizeof times) ||
+        !GetFileInformationByHandleEx(file, FileStandardInfo, &extent, sizeof extent))
     {
         return std::nullopt;
     }
-    FileStamp stamp;
-    stamp.m_size = extent.EndOfFile.QuadPart;
-    stamp.m_written = times.LastWriteTime.QuadPart;
-    stamp.m_changed = times.ChangeTime.QuadPart;
-    stamp.m_age = stamp.m_changed == 0 ? 0 : Now() - std::max(stamp.m_written, stamp.m_changed);
-    return stamp;
+    return FileStamp(extent.EndOfFile, times.LastWriteTime, times.ChangeTime);
 }
 
 } // namespace norvepa::win

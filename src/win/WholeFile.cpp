@@ -1,27 +1,179 @@
 #include "win/WholeFile.h"
 
-#include "win/Handle.h"
+#include "win/NewFile.h"
+#include "win/OpenWhenFree.h"
 
-#include <cstdint>
+#include <algorithm>
+#include <array>
 #include <limits>
 
 namespace norvepa::win
 {
 
-std::optional<std::string> ReadWholeFile(const std::wstring& file)
+namespace
 {
-    const Handle handle(CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-    LARGE_INTEGER size;
-    if (!handle || !GetFileSizeEx(handle.get(), &size) ||
-        size.QuadPart > std::numeric_limits<std::int32_t>::max())
+
+// A stranger may write meanwhile. Nobody may remove the file: who then makes another in its place would fail.
+constexpr FileUse Reading{GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING};
+
+// Reading keeps out who reads, and who writes as we do. That others may write lets Flush() in.
+constexpr FileUse Writing{GENERIC_READ | GENERIC_WRITE, FILE_SHARE_WRITE, OPEN_EXISTING};
+
+constexpr DWORD Everybody = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+bool WriteFromBegin(const Handle& file, std::string_view bytes) noexcept
+{
+    OVERLAPPED begin{};
+    DWORD written = 0;
+    return WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, &begin) &&
+           written == bytes.size();
+}
+
+void Cut(const Handle& file, std::size_t size) noexcept
+{
+    FILE_END_OF_FILE_INFO end{};
+    end.EndOfFile.QuadPart = static_cast<LONGLONG>(size);
+    SetFileInformationByHandle(file.get(), FileEndOfFileInfo, &end, sizeof end);
+}
+
+// As many bytes as make a text of `size` as long as it was, of whole blanks.
+std::string Padded(std::string_view bytes, std::size_t size, std::string_view blank)
+{
+    std::string padded(bytes);
+    padded.reserve(std::max(size, bytes.size()));
+    while (padded.size() + blank.size() <= size)
+    {
+        padded += blank;
+    }
+    return padded;
+}
+
+// A disk that is full takes only a part: the old content has its room there.
+bool Replace(const Handle& file, std::string_view bytes, std::string_view blank)
+{
+    LARGE_INTEGER size{};
+    if (!GetFileSizeEx(file.get(), &size))
+    {
+        return false;
+    }
+    const auto before = ReadBytes(file, size.QuadPart);
+    if (!before)
+    {
+        return false;
+    }
+    const bool written = bytes.size() >= before->size()
+                             ? WriteFromBegin(file, bytes)
+                             : WriteFromBegin(file, Padded(bytes, before->size(), blank));
+    if (!written)
+    {
+        static_cast<void>(WriteFromBegin(file, *before));
+    }
+    Cut(file, written ? bytes.size() : before->size());
+    return written;
+}
+
+// A disk may take longer than anybody waits for a file in use: the file is let go of ahead of it.
+void LetGoAndFlush(const std::wstring& path, Handle file) noexcept
+{
+    const Handle shared(CreateFileW(path.c_str(), GENERIC_WRITE, Everybody, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr));
+    file = {};
+    FlushFileBuffers(shared.get());
+}
+
+bool MakeWholeFile(const std::wstring& path, std::string_view bytes) noexcept
+{
+    NewFile made = NewFile::CreateBeside(path);
+    return made && made.Write(bytes) && made.Keep();
+}
+
+bool Copy(const Handle& source, const NewFile& destination) noexcept
+{
+    constexpr std::size_t PieceBytes = 16 * 1024; // on the stack: a copy must not fail for want of memory
+
+    std::array<char, PieceBytes> piece;
+    DWORD read = 0;
+    do
+    {
+        if (!ReadFile(source.get(), piece.data(), PieceBytes, &read, nullptr) ||
+            !destination.Write({piece.data(), read}))
+        {
+            return false;
+        }
+    } while (read != 0);
+    return true;
+}
+
+} // namespace
+
+Handle OpenToRead(const std::wstring& file) noexcept
+{
+    return OpenWhenFree<ReadersPatience>(file.c_str(), Reading);
+}
+
+std::optional<std::string> ReadBytes(const Handle& handle, std::int64_t size)
+{
+    if (size > std::numeric_limits<std::int32_t>::max())
     {
         return std::nullopt;
     }
-    std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
+    std::string bytes(static_cast<std::size_t>(size), '\0');
+    OVERLAPPED begin{};
     DWORD read = 0;
-    ReadFile(handle.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
+    const BOOL done = ReadFile(handle.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, &begin);
+    if (!done && GetLastError() != ERROR_HANDLE_EOF)
+    {
+        return std::nullopt;
+    }
     return bytes;
+}
+
+std::optional<std::string> ReadWholeFile(const std::wstring& file)
+{
+    const Handle handle = OpenToRead(file);
+    LARGE_INTEGER size;
+    if (!handle || !GetFileSizeEx(handle.get(), &size))
+    {
+        return std::nullopt;
+    }
+    return ReadBytes(handle, size.QuadPart);
+}
+
+bool WriteWholeFile(const std::wstring& file, std::string_view bytes, std::string_view blank)
+{
+    for (;;)
+    {
+        if (Handle known = OpenWhenFree<WritersPatience>(file.c_str(), Writing))
+        {
+            const bool written = Replace(known, bytes, blank);
+            LetGoAndFlush(file, std::move(known));
+            return written;
+        }
+        if (GetLastError() != ERROR_FILE_NOT_FOUND)
+        {
+            return false;
+        }
+        if (MakeWholeFile(file, bytes))
+        {
+            return true;
+        }
+        if (GetLastError() != ERROR_FILE_EXISTS) // which another has been faster to make
+        {
+            return false;
+        }
+    }
+}
+
+bool CopyToNewFile(const std::wstring& source, const std::wstring& destination) noexcept
+{
+    const Handle from = OpenToRead(source);
+    FILE_BASIC_INFO information;
+    if (!from || !GetFileInformationByHandleEx(from.get(), FileBasicInfo, &information, sizeof information))
+    {
+        return false;
+    }
+    NewFile to = NewFile::CreateBeside(destination);
+    return to && Copy(from, to) && to.KeepAs(information);
 }
 
 } // namespace norvepa::win

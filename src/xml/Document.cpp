@@ -1,5 +1,7 @@
 #include "xml/Document.h"
 
+#include "win/WholeFile.h"
+#include "xml/CallImages.h"
 #include "xml/Characters.h"
 #include "xml/Engine.h"
 
@@ -7,6 +9,7 @@
 #include <shlwapi.h>
 
 #include <new>
+#include <utility>
 
 namespace norvepa
 {
@@ -28,6 +31,46 @@ VARIANT ElementType() noexcept
     type.vt = VT_I4;
     type.lVal = NODE_ELEMENT;
     return type;
+}
+
+// Throws when memory runs out.
+ComPtr<IStream> MakeStream(std::string_view bytes)
+{
+    // Not by Attach(), which takes a reference of its own in MinGW-w64's form of the class.
+    ComPtr<IStream> stream;
+    *stream.GetAddressOf() =
+        SHCreateMemStream(reinterpret_cast<const BYTE*>(bytes.data()), static_cast<UINT>(bytes.size()));
+    if (!stream)
+    {
+        throw std::bad_alloc();
+    }
+    return stream;
+}
+
+// Lent for the length of a call.
+VARIANT AsVariant(const ComPtr<IStream>& stream) noexcept
+{
+    VARIANT variant = {};
+    variant.vt = VT_UNKNOWN;
+    variant.punkVal = stream.Get();
+    return variant;
+}
+
+// A blank as it is written in the encoding of a document, which begins with "<" or a byte order mark.
+std::string_view BlankOf(std::string_view document) noexcept
+{
+    using namespace std::string_view_literals;
+
+    const std::string_view begin = document.substr(0, 2);
+    if (begin == "\xFF\xFE"sv || begin == "<\0"sv)
+    {
+        return " \0"sv;
+    }
+    if (begin == "\xFE\xFF"sv || begin == "\0<"sv)
+    {
+        return "\0 "sv;
+    }
+    return " "sv;
 }
 
 } // namespace
@@ -52,25 +95,21 @@ void Document::LoadAsItStands()
     Checked(m_document->put_preserveWhiteSpace(VARIANT_TRUE));
 }
 
-bool Document::Load(const std::wstring& file)
+bool Document::LoadWithNeighbours(const std::wstring& file)
 {
     return LoadFrom(Bstr(file).asVariant());
 }
 
+bool Document::Load(const std::wstring& file)
+{
+    const auto bytes = win::ReadWholeFile(file);
+    return bytes && LoadBytes(*bytes);
+}
+
 bool Document::LoadBytes(std::string_view bytes)
 {
-    // Not by Attach(), which takes a reference of its own in MinGW-w64's form of the class.
-    ComPtr<IStream> stream;
-    *stream.GetAddressOf() =
-        SHCreateMemStream(reinterpret_cast<const BYTE*>(bytes.data()), static_cast<UINT>(bytes.size()));
-    if (!stream)
-    {
-        throw std::bad_alloc();
-    }
-    VARIANT source = {};
-    source.vt = VT_UNKNOWN;
-    source.punkVal = stream.Get();
-    return LoadFrom(source);
+    const ComPtr<IStream> stream = MakeStream(bytes);
+    return LoadFrom(AsVariant(stream));
 }
 
 bool Document::LoadFrom(VARIANT source)
@@ -99,7 +138,25 @@ void Document::CheckParseError() const
 
 bool Document::Save(const std::wstring& file) const
 {
-    return SUCCEEDED(Checked(m_document->save(Bstr(file).asVariant())));
+    ForgetImages();
+    const auto bytes = Bytes();
+    return bytes && win::WriteWholeFile(file, *bytes, BlankOf(*bytes));
+}
+
+std::optional<std::string> Document::Bytes() const
+{
+    const ComPtr<IStream> stream = MakeStream({});
+    STATSTG extent{};
+    if (FAILED(Checked(m_document->save(AsVariant(stream)))) ||
+        FAILED(Checked(stream->Stat(&extent, STATFLAG_NONAME))) ||
+        FAILED(Checked(stream->Seek({}, STREAM_SEEK_SET, nullptr))))
+    {
+        return std::nullopt;
+    }
+    std::string bytes(static_cast<std::size_t>(extent.cbSize.QuadPart), '\0');
+    ULONG read = 0;
+    const HRESULT status = Checked(stream->Read(bytes.data(), static_cast<ULONG>(bytes.size()), &read));
+    return SUCCEEDED(status) && read == bytes.size() ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 Node Document::Root() const

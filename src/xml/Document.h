@@ -13,6 +13,7 @@
 #include <msxml2.h>
 #include <wrl/client.h>
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -29,9 +30,17 @@ public:
     // document to be validated need ahead of their load.
     void LoadAsItStands();
 
-    // True when the engine has read all of the file and found it well-formed.
+    // True when the engine has read all of the file, at once, and found it well-formed.
     [[nodiscard]] bool Load(const std::wstring& file);
     [[nodiscard]] bool LoadBytes(std::string_view bytes); // the same of a file's content
+
+    // The same by the engine's own hands, which then knows where the file lies: a schema may name its neighbours.
+    [[nodiscard]] bool LoadWithNeighbours(const std::wstring& file);
+
+    // What the engine saves, in memory; none when it refuses.
+    [[nodiscard]] std::optional<std::string> Bytes() const;
+
+    // The same, and then at once in the place of what the file holds (see win/WholeFile.h).
     [[nodiscard]] bool Save(const std::wstring& file) const;
 
     [[nodiscard]] Node Root() const;

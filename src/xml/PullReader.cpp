@@ -1,123 +1,100 @@
 #include "xml/PullReader.h"
 
-#include <shlwapi.h>
-
-#include <utility>
+#include "xml/CallImages.h"
 
 namespace norvepa
 {
 
 Result PullReader::Open(const std::wstring& path)
 {
-    m_reader.Reset();
-    m_place = {};
-    m_stopped = false;
-
-    Microsoft::WRL::ComPtr<IStream> stream;
-    m_lastStatus = SHCreateStreamOnFileW(path.c_str(), STGM_READ, &stream);
-    if (FAILED(m_lastStatus))
-    {
-        return PGSP_ERR_CANT_LOAD_XML_FILE;
-    }
-
-    Microsoft::WRL::ComPtr<IXmlReader> reader;
-    m_lastStatus =
-        CreateXmlReader(__uuidof(IXmlReader), reinterpret_cast<void**>(reader.GetAddressOf()), nullptr);
-    if (FAILED(m_lastStatus))
-    {
-        return PGSP_ERR_CANT_LOAD_XML_FILE;
-    }
-
-    // A reader that refuses either of these doesn't become active, which every walk tests.
-    reader->SetProperty(XmlReaderProperty_DtdProcessing, DtdProcessing_Prohibit);
-    m_lastStatus = reader->SetInput(stream.Get());
-    m_reader = reader;
-    return PGSP_OK;
+    *this = {};
+    m_image = ImageOf(path, m_lastStatus);
+    return m_image == nullptr ? PGSP_ERR_CANT_LOAD_XML_FILE : PGSP_OK;
 }
 
 bool PullReader::Read(XmlNodeType& type) noexcept
 {
-    if (m_stopped || !m_reader)
+    MoveToElement();
+    if (m_image == nullptr || m_next > m_image->size())
     {
         return false;
     }
-    m_stopped = m_reader->Read(&type) != S_OK || !HasMoved(type);
-    return !m_stopped;
-}
-
-// Every node of a document has a place of its own. An engine that delivers one twice has come upon the
-// end of a file that was cut off, and would go on delivering it.
-bool PullReader::HasMoved(XmlNodeType type) noexcept
-{
-    Place place{type};
-    m_reader->GetLineNumber(&place.line);
-    m_reader->GetLinePosition(&place.column);
-    return place != std::exchange(m_place, place);
+    if (m_next++ == m_image->size())
+    {
+        return false;
+    }
+    type = static_cast<XmlNodeType>(Current().type);
+    return true;
 }
 
 XmlReadState PullReader::State() const noexcept
 {
-    LONG_PTR state = XmlReadState_Closed;
-    if (!m_reader || FAILED(m_reader->GetProperty(XmlReaderProperty_ReadState, &state)))
+    if (m_image == nullptr)
     {
         return XmlReadState_Closed;
     }
-    // An engine that gives up ahead of the first node may still call itself at its beginning.
-    const bool activeAsItSays = state == XmlReadState_Initial || state == XmlReadState_Interactive;
-    return m_stopped && activeAsItSays ? XmlReadState_Error : static_cast<XmlReadState>(state);
+    if (m_next == 0)
+    {
+        return m_image->firstState();
+    }
+    return m_next > m_image->size() ? m_image->lastState() : XmlReadState_Interactive;
 }
 
 bool PullReader::IsEmptyElement() const noexcept
 {
-    return m_reader->IsEmptyElement() != FALSE;
+    return m_attribute == NoAttribute && Current().isEmpty;
 }
 
 std::wstring_view PullReader::LocalName() const noexcept
 {
-    const wchar_t* name = nullptr;
-    UINT length = 0;
-    return SUCCEEDED(m_reader->GetLocalName(&name, &length)) && name ? std::wstring_view(name, length)
-                                                                     : std::wstring_view{};
+    const bool isOnAttribute = m_attribute != NoAttribute;
+    return m_image->name(isOnAttribute ? OnAttribute().name : Current().name);
 }
 
 std::wstring_view PullReader::Value() const noexcept
 {
-    const wchar_t* value = nullptr;
-    UINT length = 0;
-    return SUCCEEDED(m_reader->GetValue(&value, &length)) && value ? std::wstring_view(value, length)
-                                                                   : std::wstring_view{};
+    if (m_attribute != NoAttribute)
+    {
+        return m_image->text(OnAttribute().value);
+    }
+    return Current().type == XmlNodeType_Text ? m_image->text(Current().content) : std::wstring_view{};
 }
 
-std::optional<PullReader::Attribute> PullReader::CurrentAttribute() noexcept
+std::optional<PullReader::Attribute> PullReader::CurrentAttribute() const noexcept
 {
-    // Asked for as well: an attribute whose prefix is out of order has no name.
-    const wchar_t* prefix = nullptr;
-    const wchar_t* name = nullptr;
-    const wchar_t* value = nullptr;
-    UINT nameLength = 0;
-    UINT valueLength = 0;
-    if (FAILED(m_reader->GetPrefix(&prefix, nullptr)) || FAILED(m_reader->GetLocalName(&name, &nameLength)) ||
-        FAILED(m_reader->GetValue(&value, &valueLength)))
+    if (!OnAttribute().isTold)
     {
         return std::nullopt;
     }
-    return Attribute{{name, nameLength}, {value, valueLength}};
+    return Attribute{m_image->name(OnAttribute().name), m_image->text(OnAttribute().value)};
 }
 
 bool PullReader::MoveToFirstAttribute() noexcept
 {
-    m_lastStatus = m_reader->MoveToFirstAttribute();
-    return m_lastStatus == S_OK;
+    const XmlImage::Node& element = Current();
+    if (element.type != XmlNodeType_Element || element.content.length == 0)
+    {
+        m_lastStatus = element.type == XmlNodeType_Element ? XmlImage::noAttribute(element) : S_FALSE;
+        return false;
+    }
+    m_attribute = element.content.begin;
+    m_lastStatus = S_OK;
+    return true;
 }
 
 bool PullReader::MoveToNextAttribute() noexcept
 {
-    return m_reader->MoveToNextAttribute() == S_OK;
-}
-
-void PullReader::MoveToElement() noexcept
-{
-    m_reader->MoveToElement();
+    if (m_attribute == NoAttribute)
+    {
+        return MoveToFirstAttribute();
+    }
+    const XmlImage::Span attributes = Current().content;
+    if (m_attribute + 1 == attributes.begin + attributes.length)
+    {
+        return false;
+    }
+    ++m_attribute;
+    return true;
 }
 
 } // namespace norvepa

@@ -1,21 +1,22 @@
 #pragma once
 
-// A forward pass over one XML file: the pull engine made safe to hold, and the primitives that every
-// walk is written with.
+// A forward pass over one XML file, and the primitives that every walk is written with.
 //
-// Callers may rely on: a reader opens the file for as long as it lives and reads what the file says at
-// that time; a DOCTYPE, a malformed place or a file that was cut off stops it for good. Callers must not:
-// keep a view that was lent of a name or a value beyond the next step.
+// Callers may rely on: a reader walks over the image of the file as it was when it was opened (see
+// xml/CallImages.h), and holds no file; a DOCTYPE, a malformed place or a file that was cut off stops it for
+// good. Callers must not: keep a view that was lent of a name or a value beyond the next step; or ask for the
+// node that it stands on when it stands on none.
 //
 // The primitives don't count depth: a grandchild is found as readily as a child. Text in CDATA is no text
 // to them, comments and white space are passed over, and an element written as one empty tag ends a
 // search among children.
 
 #include "frame/Result.h"
+#include "xml/XmlImage.h"
 
-#include <wrl/client.h>
-#include <xmllite.h>
-
+#include <cstddef>
+#include <limits>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -39,7 +40,7 @@ public:
     [[nodiscard]] XmlReadState State() const noexcept;
     [[nodiscard]] bool IsEmptyElement() const noexcept; // asked on an attribute it answers false
     [[nodiscard]] std::wstring_view LocalName() const noexcept;
-    [[nodiscard]] std::wstring_view Value() const noexcept;
+    [[nodiscard]] std::wstring_view Value() const noexcept; // of a text or an attribute, empty of others
 
     // The attribute that the reader stands on. None when the engine fails to tell any part of it.
     struct Attribute
@@ -47,27 +48,28 @@ public:
         std::wstring_view name;
         std::wstring_view value;
     };
-    [[nodiscard]] std::optional<Attribute> CurrentAttribute() noexcept;
+    [[nodiscard]] std::optional<Attribute> CurrentAttribute() const noexcept;
 
     [[nodiscard]] bool MoveToFirstAttribute() noexcept;
     [[nodiscard]] bool MoveToNextAttribute() noexcept;
-    void MoveToElement() noexcept;
+    void MoveToElement() noexcept { m_attribute = NoAttribute; }
 
 private:
-    struct Place
+    static constexpr std::size_t NoAttribute = std::numeric_limits<std::size_t>::max();
+
+    [[nodiscard]] const XmlImage::Node& Current() const noexcept
     {
-        XmlNodeType type = XmlNodeType_None;
-        UINT line = 0;
-        UINT column = 0;
+        static constexpr XmlImage::Node nowhere{};
+        return m_next - 1 < m_image->size() ? m_image->node(m_next - 1) : nowhere;
+    }
+    [[nodiscard]] const XmlImage::Attribute& OnAttribute() const noexcept
+    {
+        return m_image->attribute(m_attribute);
+    }
 
-        bool operator==(const Place&) const noexcept = default;
-    };
-
-    [[nodiscard]] bool HasMoved(XmlNodeType type) noexcept;
-
-    Microsoft::WRL::ComPtr<IXmlReader> m_reader;
-    Place m_place;
-    bool m_stopped = false;
+    std::shared_ptr<const XmlImage> m_image;
+    std::size_t m_next = 0; // one behind the node that it stands on; behind the last, it has stopped
+    std::size_t m_attribute = NoAttribute; // of all the image's
     HRESULT m_lastStatus = S_OK;
 };
 

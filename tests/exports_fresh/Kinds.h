@@ -31,7 +31,7 @@ struct Kind
     Value before;
     Value after;
     std::wstring missing;   // there is no such file
-    std::wstring held;      // it can't be opened
+    std::wstring held;      // it can't be opened: told, unless the listing of its folder is what is asked
     std::wstring malformed; // it ends or breaks ahead of the value
 
     friend void PrintTo(const Kind& kind, std::ostream* out);

@@ -11,17 +11,18 @@ namespace norvepa::test
 namespace
 {
 
+std::wstring copyAwaited;
 std::optional<OpenFile> copyInUse;
 
-// From the moment it is made somebody reads the copy, and so lets nobody write it.
-BOOL WINAPI CopyAndKeepOpen(LPCWSTR from, LPCWSTR to, BOOL failIfThere)
+// From the moment it is there somebody reads the copy, and so lets nobody write it.
+BOOL WINAPI CloseAndKeepCopyOpen(HANDLE handle)
 {
-    const BOOL copied = CopyFileW(from, to, failIfThere);
-    if (copied)
+    const BOOL closed = CloseHandle(handle);
+    if (!copyInUse && Exists(copyAwaited))
     {
-        copyInUse.emplace(to);
+        copyInUse.emplace(copyAwaited);
     }
-    return copied;
+    return closed;
 }
 
 // A copy that nothing can be saved to.
@@ -37,7 +38,7 @@ protected:
     ~UnsavedCopy() override { copyInUse.reset(); }
 
 private:
-    const ImportHook m_keepingOpen{"CopyFileW", CopyAndKeepOpen, library.module()};
+    const ImportHook m_keepingOpen{"CloseHandle", CloseAndKeepCopyOpen, library.module()};
 };
 
 TEST_F(UnsavedCopy, StaysHiddenAndKeptFromRemovalWithoutAWordOfIt)
@@ -45,6 +46,7 @@ TEST_F(UnsavedCopy, StaysHiddenAndKeptFromRemovalWithoutAWordOfIt)
     const NamedEvent told;
     Register(told, L"Kopie");
 
+    copyAwaited = roots.logDevice(L"Kopie");
     EXPECT_EQ(library.LogDeviceCopyBL(L"Presse", L"Kopie"), PGSP_OK);
 
     EXPECT_TRUE(IsTold(told));
@@ -54,6 +56,7 @@ TEST_F(UnsavedCopy, StaysHiddenAndKeptFromRemovalWithoutAWordOfIt)
 
 TEST_F(UnsavedCopy, ThatIsTemporaryLacksTheTemplatesNameWithoutAWordOfIt)
 {
+    copyAwaited = roots.logDevice(TemporaryName(0));
     EXPECT_EQ(MakeTemporaryFromTemplate(L"MPI"), TemporaryName(0));
 
     EXPECT_EQ(store.Bytes(TemporaryName(0)), ReadBytes(roots.deviceTemplate(L"MPI")));

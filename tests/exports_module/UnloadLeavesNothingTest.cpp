@@ -38,7 +38,7 @@ protected:
     // All rounds but the first few: with those the system lays by what it needs for good.
     static void Expect(int rounds, const std::function<void(const Exports&)>& use)
     {
-        constexpr int firstFew = 5;
+        constexpr int firstFew = 25;
         const std::size_t threads = CountThreads();
         const auto run = [&](int times) {
             for (int i = 0; i < times; ++i)

@@ -20,7 +20,7 @@ protected:
         return std::make_shared<const Answer>(Answer{text});
     }
 
-    [[nodiscard]] Borrowed<const Answer> Find(std::wstring_view key, AnswerKind kind) const
+    [[nodiscard]] win::Borrowed<const Answer> Find(std::wstring_view key, AnswerKind kind) const
     {
         return MetaCacheFind(file, key, kind);
     }

@@ -1,4 +1,4 @@
-#include "meta/Published.h"
+#include "win/Published.h"
 
 #include "FailingNew.h"
 
@@ -24,7 +24,7 @@ bool AddOne(Numbers& list)
 }
 
 // False when the nth allocation failed.
-bool UpdatesInAShortage(Published<Numbers>& numbers, std::size_t nth)
+bool UpdatesInAShortage(win::Published<Numbers>& numbers, std::size_t nth)
 {
     const FailingNew failing(nth, Shortage::Passing);
     try
@@ -40,7 +40,7 @@ bool UpdatesInAShortage(Published<Numbers>& numbers, std::size_t nth)
 
 TEST(PublishedOutOfMemory, LeavesWhatWasPublishedAsItWas)
 {
-    Published<Numbers> numbers;
+    win::Published<Numbers> numbers;
     numbers.Update(&AddOne);
 
     std::size_t nth = 1;
@@ -55,7 +55,7 @@ TEST(PublishedOutOfMemory, LeavesWhatWasPublishedAsItWas)
 
 TEST(PublishedOutOfMemory, LendsAndClearsAllTheSame)
 {
-    Published<Numbers> numbers;
+    win::Published<Numbers> numbers;
     numbers.Update(&AddOne);
     bool hasFailed = true;
     {

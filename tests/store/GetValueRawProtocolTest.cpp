@@ -2,7 +2,6 @@
 #include "support/ImportHook.h"
 
 #include <windows.h>
-#include <shlwapi.h>
 
 #include <utility>
 
@@ -135,19 +134,24 @@ TEST_F(GetValueRawProtocol, AMalformedPlaceEndsTheFirstSearchAndTheSecondGoesUpT
 bool isFirst = true;
 
 // Opens the first file, and none behind it.
-HRESULT WINAPI OpenOnce(const wchar_t* path, DWORD mode, IStream** stream)
+HANDLE WINAPI OpenOnce(LPCWSTR path, DWORD access, DWORD sharing, LPSECURITY_ATTRIBUTES security,
+                       DWORD disposition, DWORD flags, HANDLE model)
 {
+    // Not by its name here, which leads back to this function.
+    static const auto createFile = reinterpret_cast<decltype(&CreateFileW)>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "CreateFileW")));
     if (!std::exchange(isFirst, false))
     {
-        return HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND);
+        SetLastError(ERROR_FILE_NOT_FOUND);
+        return INVALID_HANDLE_VALUE;
     }
-    return SHCreateStreamOnFileEx(path, mode, 0, FALSE, nullptr, stream);
+    return createFile(path, access, sharing, security, disposition, flags, model);
 }
 
 TEST_F(GetValueRawProtocol, AFileThatIsGoneWhenTheSecondSearchOpensItCanNotBeLoaded)
 {
     const std::wstring file = Protocol(XmlContent().ParamSection(L"p", XmlContent().Element(L"min", L"1")));
-    const ImportHook opening("SHCreateStreamOnFileW", OpenOnce);
+    const ImportHook opening("CreateFileW", OpenOnce);
     isFirst = true;
 
     EXPECT_EQ(GetValueRaw(file, L"p", L"min"), (Answer{PGSP_ERR_CANT_LOAD_XML_FILE, L""}));

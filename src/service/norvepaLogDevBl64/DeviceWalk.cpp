@@ -3,7 +3,6 @@
 #include "frame/TemporaryName.h"
 #include "frame/Text.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
-#include "store/norvxml.h"
 
 namespace norvepa
 {
@@ -13,7 +12,8 @@ DeviceWalk::DeviceWalk(const ExportFrame& frame, const wchar_t* netType, std::ui
       m_netType(netType),
       m_capacity(capacity),
       m_dataFolder(GetDataFolder()),
-      m_folder(LogDeviceFolder(m_dataFolder))
+      m_files(LogDeviceFolder(m_dataFolder), m_dataFolder),
+      m_look(LogDeviceFolder(m_dataFolder))
 {
 }
 
@@ -33,7 +33,7 @@ Result DeviceWalk::NextCandidate(std::wstring& name)
     {
         return PGSP_ERR_INVALID_PARAMETERS;
     }
-    const Result result = NorvXMLEnumFile(m_folder.c_str(), m_dataFolder, m_position, &name);
+    const Result result = m_files.At(m_position, &name);
     if (result == PGSP_OK && name.size() >= m_capacity)
     {
         return PGSP_ERR_BUFFER_TOO_SHORT;

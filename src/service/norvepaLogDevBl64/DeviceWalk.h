@@ -4,10 +4,12 @@
 // of the filter's type when there is one.
 //
 // Callers may rely on: each step reads the log devices from where the last one ended, as they are now; the
-// store's folder is looked up once. They must not keep a walk from one call of an export to the next: a log
+// store's folder is looked up and listed once. They must not keep a walk from one call of an export to the next: a log
 // device that has been hidden or shown since then moves all that follow it.
 
 #include "frame/ExportFrame.h"
+#include "store/FileWalk.h"
+#include "xml/CallImages.h"
 
 #include <cstdint>
 #include <string>
@@ -35,7 +37,8 @@ private:
     const wchar_t* m_netType;
     std::uint32_t m_capacity;
     std::wstring m_dataFolder; // without one the path is relative; no code tells that here
-    std::wstring m_folder;
+    FileWalk m_files;
+    FolderWalk m_look;
     std::uint32_t m_position = 0; // of the next candidate
 };
 

@@ -37,6 +37,7 @@ void AddToIndex(const std::wstring& logDevice)
 void Rebuild()
 {
     const ExportFrame enumeration{"LogDeviceGetEnumBL: "};
+    const StandingRoots roots;
     DeviceWalk walk(enumeration, nullptr, PathCapacity);
     std::wstring name;
     for (std::uint32_t index = 0;; ++index)

@@ -4,7 +4,9 @@
 #include "frame/Text.h"
 #include "norvepa.h"
 #include "service/norvepaLogNamBl64/norvepaLogNamBl64.h"
+#include "store/FileWalk.h"
 #include "store/norvxml.h"
+#include "xml/CallImages.h"
 
 #include <string>
 
@@ -42,14 +44,15 @@ int32_t LogNameGetEnumBL(uint32_t index, wchar_t* LogName, uint32_t* LogNameLen)
             return PGSP_ERR_NO_MORE_ITEMS;
         }
 
-        const std::wstring folder = LogNameFolder(dataFolder);
+        const StandingRoots roots;
+        const FolderWalk look(LogNameFolder(dataFolder));
+        FileWalk files(LogNameFolder(dataFolder), dataFolder);
         std::wstring candidate;
         std::uint32_t remaining = index;
         for (std::uint32_t i = 0;; ++i)
         {
             // A name too long for the buffer looks like the end of the list, wherever it stands.
-            if (NorvXMLEnumFile(folder.c_str(), dataFolder, i, &candidate) != PGSP_OK ||
-                candidate.size() >= *LogNameLen)
+            if (files.At(i, &candidate) != PGSP_OK || candidate.size() >= *LogNameLen)
             {
                 NORV_TRACE(frame, TraceExit, "<< return PGSP_ERR_NO_MORE_ITEMS");
                 return PGSP_ERR_NO_MORE_ITEMS;

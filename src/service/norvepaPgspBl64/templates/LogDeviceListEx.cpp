@@ -3,7 +3,7 @@
 #include "norvepa.h"
 #include "service/norvepaLogDevBl64/norvepaLogDevBl64.h"
 #include "service/norvepaPgspBl64/norvepaPgspBl64.h"
-#include "store/norvxml.h"
+#include "store/FileWalk.h"
 
 #include <algorithm>
 #include <array>
@@ -102,11 +102,10 @@ int32_t PGSP_GetLogDeviceListExBL(const wchar_t* EntryName, const wchar_t* Entry
             return frame.FolderNotFound("Can not get ProgramData Path");
         }
 
-        const std::wstring folder = LogDeviceFolder(dataFolder);
+        FileWalk files(LogDeviceFolder(dataFolder), dataFolder);
         std::vector<std::wstring> names;
         std::wstring name;
-        for (std::uint32_t index = 0; NorvXMLEnumFile(folder.c_str(), dataFolder, index, &name) == PGSP_OK;
-             ++index)
+        for (std::uint32_t index = 0; files.At(index, &name) == PGSP_OK; ++index)
         {
             const std::wstring value = ValueOf(name, EntryName);
             if (!value.empty() && IsAskedFor(frame, value, EntryValue, mode))

@@ -2,6 +2,7 @@
 #include "frame/Text.h"
 #include "norvepa.h"
 #include "service/norvepaPgspBl64/norvepaPgspBl64.h"
+#include "store/FileWalk.h"
 #include "store/norvxml.h"
 
 #include <vector>
@@ -15,22 +16,22 @@ std::vector<std::wstring> AllFiles(const std::wstring& folder, const std::wstrin
 {
     std::vector<std::wstring> names;
     std::wstring name;
-    for (std::uint32_t index = 0; NorvXMLEnumFile(folder.c_str(), dataFolder, index, &name) == PGSP_OK;
-         ++index)
+    FileWalk files(folder, dataFolder);
+    for (std::uint32_t index = 0; files.At(index, &name) == PGSP_OK; ++index)
     {
         names.push_back(name);
     }
     return names;
 }
 
-// Step by step from the first name: the listing may change on the way, and what ends it is the answer.
+// Step by step from the first name: what ends the walk is the answer.
 Result StepToFile(const std::wstring& folder, std::uint32_t index, std::wstring& name)
 {
-    const std::wstring dataFolder = GetDataFolder();
-    Result result = NorvXMLEnumFile(folder.c_str(), dataFolder, 0, &name);
+    FileWalk files(folder, GetDataFolder());
+    Result result = files.At(0, &name);
     for (std::uint32_t step = 0; result == PGSP_OK && step < index;)
     {
-        result = NorvXMLEnumFile(folder.c_str(), dataFolder, ++step, &name);
+        result = files.At(++step, &name);
     }
     return result;
 }

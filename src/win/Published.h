@@ -9,14 +9,14 @@
 // published thing, while they update another as a matter of course: an update frees nothing that its own
 // thread may be reading, and old versions pile up.
 
-#include "meta/Reading.h"
+#include "win/Reading.h"
 
 #include <atomic>
 #include <cstddef>
 #include <memory>
 #include <utility>
 
-namespace norvepa
+namespace norvepa::win
 {
 
 // A pointer to something published, with the mark that keeps it readable; without a mark it is null.
@@ -181,4 +181,4 @@ private:
     std::atomic<Version*> m_retired = nullptr;
 };
 
-} // namespace norvepa
+} // namespace norvepa::win

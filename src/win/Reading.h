@@ -20,7 +20,7 @@
 #include <cstdint>
 #include <memory>
 
-namespace norvepa
+namespace norvepa::win
 {
 
 // More than threads that read at once. Those that share a slot answer as right, but slower.
@@ -47,4 +47,4 @@ using SlotSet = std::bitset<ReaderSlots>;
 // The slots with marks. Each is asked once, one after the other.
 [[nodiscard]] SlotSet MarkedSlots() noexcept;
 
-} // namespace norvepa
+} // namespace norvepa::win

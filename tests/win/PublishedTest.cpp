@@ -1,4 +1,4 @@
-#include "meta/Published.h"
+#include "win/Published.h"
 
 #include "support/AllAtOnce.h"
 
@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvepa
+namespace norvepa::win
 {
 namespace
 {
@@ -373,4 +373,4 @@ TEST(Published, FreesEachVersionOnceInARaceOfUpdatesAndClearings)
 }
 
 } // namespace
-} // namespace norvepa
+} // namespace norvepa::win

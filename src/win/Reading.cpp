@@ -1,10 +1,10 @@
-#include "meta/Reading.h"
+#include "win/Reading.h"
 
 #include <windows.h>
 
 #include <array>
 
-namespace norvepa
+namespace norvepa::win
 {
 
 namespace
@@ -34,4 +34,4 @@ SlotSet MarkedSlots() noexcept
     return marked;
 }
 
-} // namespace norvepa
+} // namespace norvepa::win

@@ -1,0 +1,58 @@
+#pragma once
+
+// Opening a file that others of us may have open for a moment.
+
+#include "win/Handle.h"
+#include "win/Patience.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <initializer_list>
+
+namespace norvepa::win
+{
+
+// Runs `step`, which answers something false when the system refused, again for as long as the file is in use,
+// by the codes given, and it is worth it. The reason of the last refusal stays in the system's last error.
+template <typename Patience, typename Step>
+[[nodiscard]] auto WhenFree(const wchar_t* file, std::initializer_list<DWORD> inUse, const Step& step)
+{
+    Patience patience(file);
+    for (;;)
+    {
+        auto done = step();
+        if (done)
+        {
+            patience.Opened();
+            return done;
+        }
+        const DWORD error = GetLastError();
+        const bool isInUse = std::find(inUse.begin(), inUse.end(), error) != inUse.end();
+        if (!isInUse || !patience.IsWorthAnotherTry())
+        {
+            SetLastError(error);
+            return done;
+        }
+    }
+}
+
+// How a file is opened, by the system's words.
+struct FileUse
+{
+    DWORD access;
+    DWORD sharing;
+    DWORD disposition;
+};
+
+// Empty, with the reason in the system's last error, when it can't be opened.
+template <typename Patience>
+[[nodiscard]] Handle OpenWhenFree(const wchar_t* file, const FileUse& use)
+{
+    return WhenFree<Patience>(file, {ERROR_SHARING_VIOLATION}, [&] {
+        return Handle(CreateFileW(file, use.access, use.sharing, nullptr, use.disposition,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr));
+    });
+}
+
+} // namespace norvepa::win
