@@ -3,9 +3,9 @@
 // One call of an export, from its begin to its end with all that it calls itself, and what it keeps for that
 // long: a call looks at each thing once, and sees one state of it.
 //
-// Callers may rely on: exports that call each other share the outermost one's scope. Outside of an export, and on
-// a system that has no place for it, there is none, and everything is looked at each time. Callers must not: keep
-// what has to be freed on another thread.
+// Callers may rely on: exports that call each other share the outermost one's scope. Outside of an export,
+// and on a system that has no place for it, there is none, and everything is looked at each time. Callers
+// must not: keep what has to be freed on another thread.
 
 #include "win/RegistryKey.h"
 

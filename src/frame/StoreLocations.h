@@ -3,9 +3,9 @@
 // Where the store lies: its two roots, how paths below them are composed, and the two rules by which a
 // path gets its extension.
 //
-// Callers may rely on: nothing is cached; each question asks the registry, by a key that stays open for the call
-// of an export, then the shell. Callers must not: take a root for an existing folder; a root named by the
-// registry is believed.
+// Callers may rely on: nothing is cached; each question asks the registry, by a key that stays open for the
+// call of an export, then the shell. Callers must not: take a root for an existing folder; a root named by
+// the registry is believed.
 
 #include <string>
 #include <string_view>
@@ -23,7 +23,8 @@ inline constexpr std::size_t PathCapacity = 260;
 [[nodiscard]] std::wstring GetDataFolder();
 [[nodiscard]] std::wstring GetProgramFolder();
 
-// Has both roots stand for the rest of an export's call: a walk over a thousand log devices asks for them once.
+// Has both roots stand for the rest of an export's call: a walk over a thousand log devices asks for them
+// once.
 class StandingRoots
 {
 public:

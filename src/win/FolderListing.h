@@ -3,9 +3,9 @@
 // The files of a folder at one moment, each with the stamp that its folder tells of it: a look at a thousand
 // files for the price of opening a hundred.
 //
-// Callers may rely on: names are compared as they are spelled on disk. What can't be relied on is a file with a
-// second name elsewhere, or one that somebody has written to and still holds open: a folder may tell of both
-// only later.
+// Callers may rely on: names are compared as they are spelled on disk. What can't be relied on is a file with
+// a second name elsewhere, or one that somebody has written to and still holds open: a folder may tell of
+// both only later.
 
 #include "win/FileStamp.h"
 

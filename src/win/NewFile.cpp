@@ -48,8 +48,8 @@ NewFile NewFile::CreateBeside(const std::wstring& path) noexcept
     return made;
 }
 
-// By the same name for all who make this file, so that they meet. It is longer by one: there may be no room for
-// it, and then there is only the place itself.
+// By the same name for all who make this file, so that they meet. It is longer by one: there may be no room
+// for it, and then there is only the place itself.
 bool NewFile::FindPlaceBeside(std::wstring_view path) noexcept
 {
     constexpr std::wstring_view mark = L"~";
@@ -77,7 +77,8 @@ NewFile NewFile::CreateOrEmpty(const std::wstring& path) noexcept
     return made;
 }
 
-// That others may write lets LetOthersInAndFlush() open the file a second time; reading keeps everybody else out.
+// That others may write lets LetOthersInAndFlush() open the file a second time; reading keeps everybody else
+// out.
 void NewFile::Open(const wchar_t* path, DWORD disposition) noexcept
 {
     m_handle = OpenWhenFree<WritersPatience>(

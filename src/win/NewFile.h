@@ -18,10 +18,10 @@ namespace norvepa::win
 class NewFile
 {
 public:
-    // Made beside its place, under a name that no listing of documents shows, and put there whole by Keep(): also
-    // when the process ends in the midst of it, the file is there whole or not at all. What such an end may leave
-    // beside it goes with the next file of its name. Where something is already,
-    // the object is empty. An empty object leaves the reason in the system's last error.
+    // Made beside its place, under a name that no listing of documents shows, and put there whole by Keep():
+    // also when the process ends in the midst of it, the file is there whole or not at all. What such an end
+    // may leave beside it goes with the next file of its name. Where something is already, the object is
+    // empty. An empty object leaves the reason in the system's last error.
     [[nodiscard]] static NewFile CreateBeside(const std::wstring& path) noexcept;
 
     // In its place at once, of which nobody else opens it until Keep(); what was there is empty then.
@@ -33,8 +33,8 @@ public:
     [[nodiscard]] bool Write(std::string_view bytes) const noexcept;
     void Empty() const noexcept;
 
-    // Comes back when all of it lies on the disk. Once; nothing but the end may follow. False, with the reason in
-    // the system's last error, when another file has been faster to take the place.
+    // Comes back when all of it lies on the disk. Once; nothing but the end may follow. False, with the
+    // reason in the system's last error, when another file has been faster to take the place.
     [[nodiscard]] bool Keep() noexcept;
 
     // The same, with the attributes and the time of writing of another file.

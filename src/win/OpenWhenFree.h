@@ -13,8 +13,9 @@
 namespace norvepa::win
 {
 
-// Runs `step`, which answers something false when the system refused, again for as long as the file is in use,
-// by the codes given, and it is worth it. The reason of the last refusal stays in the system's last error.
+// Runs `step`, which answers something false when the system refused, again for as long as the file is in
+// use, by the codes given, and it is worth it. The reason of the last refusal stays in the system's last
+// error.
 template <typename Patience, typename Step>
 [[nodiscard]] auto WhenFree(const wchar_t* file, std::initializer_list<DWORD> inUse, const Step& step)
 {

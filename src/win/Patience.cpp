@@ -13,13 +13,14 @@ namespace
 {
 
 constexpr std::chrono::milliseconds LongestWait{20};
+constexpr unsigned FewestTries = 30;
 constexpr unsigned PausesToALongOne = 16; // the system's take 1 ms, or up to 16 ms
 constexpr DWORD Remembered = 1'000;       // ms
 
 constexpr std::uint32_t WaitsInVain = 5; // of the process, within the time that they are remembered
 
-// Each file has the place that its number gives it, perhaps together with others: those wait once too often, or
-// let a writer ahead that isn't theirs.
+// Each file has the place that its number gives it, perhaps together with others: those wait once too often,
+// or let a writer ahead that isn't theirs.
 constexpr std::size_t Places = 64;
 constinit std::array<std::atomic<unsigned>, Places> waitingWriters{};
 
@@ -84,7 +85,7 @@ bool Wait::IsWorthAnotherTry() noexcept
     {
         m_begin = now;
     }
-    if (now - *m_begin >= LongestWait)
+    if (now - *m_begin >= LongestWait && m_pauses >= FewestTries)
     {
         return false;
     }

@@ -1,14 +1,15 @@
 #pragma once
 
 // How long an operation waits for a file that is in use, and how our own readers and writers give way to each
-// other: both hold a file for parts of a millisecond. Who else holds one may do so for long, and mustn't make us
-// slow.
+// other: both hold a file for parts of a millisecond. Who else holds one may do so for long, and mustn't make
+// us slow.
 //
-// Callers may rely on: a wait takes 20 ms at most, and there is a try behind it. A writer of this process that
-// waits is let ahead by the readers, who would otherwise take turns in keeping it out for good. A reader doesn't
-// wait again for a file that one has waited for in vain, until it has been opened or nobody has looked at it for
-// a second; and behind five waits in vain within a second no reader waits for the rest of it. So a walk over a
-// hundred files of which one is held is late by 20 ms once, and by 100 ms if all of them are.
+// Callers may rely on: a wait takes 20 ms at most, with a try behind it; only on a machine so busy that this
+// isn't the time for thirty tries it takes thirty tries. A writer of this process that waits is let ahead by
+// the readers, who would otherwise take turns in keeping it out for good. A reader doesn't wait again for a
+// file that one has waited for in vain, until it has been opened or nobody has looked at it for a second; and
+// behind five waits in vain within a second no reader waits for the rest of it. So a walk over a hundred
+// files of which one is held is late by 20 ms once, and by 100 ms if all of them are.
 
 #include <chrono>
 #include <cstdint>

@@ -1,11 +1,11 @@
 #pragma once
 
-// A pointer that each thread has of its own, null until it sets it. The run-time library's thread-local objects
-// would leave blocks of memory and an index behind in a process that unloads the module.
+// A pointer that each thread has of its own, null until it sets it. The run-time library's thread-local
+// objects would leave blocks of memory and an index behind in a process that unloads the module.
 //
-// Callers may rely on: nothing here throws or waits. A system without a free index has no places: what is set is
-// then forgotten. Callers must: set it back to null ahead of the thread's end, and let go of it once, when the
-// module is unloaded.
+// Callers may rely on: nothing here throws or waits. A system without a free index has no places: what is set
+// is then forgotten. Callers must: set it back to null ahead of the thread's end, and let go of it once, when
+// the module is unloaded.
 
 #include <windows.h>
 

@@ -2,11 +2,11 @@
 
 // A file's bytes, read at once and written at once.
 //
-// Callers may rely on: whoever reads and writes by these functions never meets the other half-way, in whatever
-// process, and neither fails because of the other: both wait for as long as win/Patience.h tells. Strangers may
-// read and write a file while it is read here, but not while it is written. What is cut off while it is read
-// comes as zero bytes. What was written lies on the disk, not only in the system's memory, when the call comes
-// back. Callers must: expect std::bad_alloc for a file that memory can't hold.
+// Callers may rely on: whoever reads and writes by these functions never meets the other half-way, in
+// whatever process, and neither fails because of the other: both wait for as long as win/Patience.h tells.
+// Strangers may read and write a file while it is read here, but not while it is written. What is cut off
+// while it is read comes as zero bytes. What was written lies on the disk, not only in the system's memory,
+// when the call comes back. Callers must: expect std::bad_alloc for a file that memory can't hold.
 
 #include "win/Handle.h"
 
@@ -29,11 +29,11 @@ namespace norvepa::win
 // None when the file can't be opened for reading, or is longer than 2 GB.
 [[nodiscard]] std::optional<std::string> ReadWholeFile(const std::wstring& file);
 
-// Puts the bytes in the place of all that the file holds, without emptying it: it is the same file afterwards,
-// and a process that ends in the midst of it leaves the old content or the new one, with blanks behind it at
-// worst. A file that isn't there is made. False when it can't be opened for writing, or the bytes have no room:
-// the file then holds what it held before, and is not there if it wasn't.
-// `blank` is how a blank is written in the encoding of the bytes.
+// Puts the bytes in the place of all that the file holds, without emptying it: it is the same file
+// afterwards, and a process that ends in the midst of it leaves the old content or the new one, with blanks
+// behind it at worst. A file that isn't there is made. False when it can't be opened for writing, or the
+// bytes have no room: the file then holds what it held before, and is not there if it wasn't. `blank` is how
+// a blank is written in the encoding of the bytes.
 [[nodiscard]] bool WriteWholeFile(const std::wstring& file, std::string_view bytes, std::string_view blank);
 
 // True, or false with the system's last error: the destination is then as it was, also when it was there

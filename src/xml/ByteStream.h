@@ -2,8 +2,8 @@
 
 // Bytes that an engine reads like a file.
 //
-// Callers must: keep the bytes and the stream for longer than the engine that reads them: its references don't
-// keep it alive.
+// Callers must: keep the bytes and the stream for longer than the engine that reads them: its references
+// don't keep it alive.
 
 #include <windows.h>
 

@@ -34,7 +34,8 @@ public:
     [[nodiscard]] bool Load(const std::wstring& file);
     [[nodiscard]] bool LoadBytes(std::string_view bytes); // the same of a file's content
 
-    // The same by the engine's own hands, which then knows where the file lies: a schema may name its neighbours.
+    // The same by the engine's own hands, which then knows where the file lies: a schema may name its
+    // neighbours.
     [[nodiscard]] bool LoadWithNeighbours(const std::wstring& file);
 
     // What the engine saves, in memory; none when it refuses.

@@ -20,7 +20,8 @@ std::size_t RoundedUp(std::size_t bytes, std::size_t step) noexcept
 
 } // namespace
 
-// In UTF-16 an input is twice as long at most, and a buffer that is doubled may get twice as long as it need be.
+// In UTF-16 an input is twice as long at most, and a buffer that is doubled may get twice as long as it need
+// be.
 EngineMemory::EngineMemory(std::size_t inputBytes) noexcept : m_roomOfBuffers(4 * inputBytes + 64 * 1024) {}
 
 EngineMemory::~EngineMemory()

@@ -1,10 +1,10 @@
 #pragma once
 
-// The memory of one pull engine: it asks for several small blocks a node, and gets them from a pool of its own
-// for a fraction of what the process's heap would take. All of it goes with the pool.
+// The memory of one pull engine: it asks for several small blocks a node, and gets them from a pool of its
+// own for a fraction of what the process's heap would take. All of it goes with the pool.
 //
-// The buffers that it reads into, the first two large blocks that it asks for, have room for as much as the whole
-// input needs, and so never move: there is an engine that goes on reading where its buffer was.
+// The buffers that it reads into, the first two large blocks that it asks for, have room for as much as the
+// whole input needs, and so never move: there is an engine that goes on reading where its buffer was.
 //
 // Callers must: keep the pool for longer than the engine: its references don't keep it alive. One thread.
 

@@ -2,9 +2,9 @@
 
 // The one pass of the pull engine over a file's bytes, and the image that comes of it.
 //
-// Callers may rely on: DTDs are prohibited: a DOCTYPE stops the engine, as do a malformed place and an end that
-// comes too early; the image then holds what lay ahead of that. An engine without memory throws std::bad_alloc,
-// but for its own object.
+// Callers may rely on: DTDs are prohibited: a DOCTYPE stops the engine, as do a malformed place and an end
+// that comes too early; the image then holds what lay ahead of that. An engine without memory throws
+// std::bad_alloc, but for its own object.
 
 #include "xml/XmlImage.h"
 

@@ -1,11 +1,11 @@
 #pragma once
 
-// A file's content as one pass of the pull engine saw it, in a compact flat form: its nodes in document order,
-// and where and how the engine stopped.
+// A file's content as one pass of the pull engine saw it, in a compact flat form: its nodes in document
+// order, and where and how the engine stopped.
 //
-// Callers may rely on: an image is never changed once it is made, so any number of threads may read it; it holds
-// no engine and no file. The value of a node is kept for texts alone, attributes for elements alone: nobody asks
-// for others. Callers must: ask only for nodes and attributes that are there.
+// Callers may rely on: an image is never changed once it is made, so any number of threads may read it; it
+// holds no engine and no file. The value of a node is kept for texts alone, attributes for elements alone:
+// nobody asks for others. Callers must: ask only for nodes and attributes that are there.
 
 #include <windows.h>
 #include <xmllite.h>

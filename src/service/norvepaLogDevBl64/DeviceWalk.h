@@ -4,8 +4,8 @@
 // of the filter's type when there is one.
 //
 // Callers may rely on: each step reads the log devices from where the last one ended, as they are now; the
-// store's folder is looked up and listed once. They must not keep a walk from one call of an export to the next: a log
-// device that has been hidden or shown since then moves all that follow it.
+// store's folder is looked up and listed once. They must not keep a walk from one call of an export to the
+// next: a log device that has been hidden or shown since then moves all that follow it.
 
 #include "frame/ExportFrame.h"
 #include "store/FileWalk.h"
