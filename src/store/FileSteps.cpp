@@ -11,6 +11,8 @@
 
 #include <windows.h>
 
+#include <mutex>
+
 namespace norvepa
 {
 
@@ -44,16 +46,19 @@ FilePair EscapeBoth(const wchar_t* sourcePath, const wchar_t* destinationPath, E
 
 bool RemoveWhenFree(const std::wstring& file) noexcept
 {
-    return win::WhenFree<win::WritersPatience>(file.c_str(), {ERROR_SHARING_VIOLATION},
-                                               [&] { return DeleteFileW(file.c_str()) != FALSE; });
+    const win::FileNumber number = win::NumberOfFile(file);
+    const std::lock_guard turn(win::TurnAt(number));
+    return win::WhenFree<win::Patience>(number, {ERROR_SHARING_VIOLATION},
+                                        [&] { return DeleteFileW(file.c_str()) != FALSE; });
 }
 
 // The system has two codes for a file in use here.
 bool MoveWhenFree(const std::wstring& from, const std::wstring& to, DWORD how) noexcept
 {
-    return win::WhenFree<win::WritersPatience>(
-        to.c_str(), {ERROR_SHARING_VIOLATION, ERROR_ACCESS_DENIED},
-        [&] { return MoveFileExW(from.c_str(), to.c_str(), how) != FALSE; });
+    const win::FileNumber number = win::NumberOfFile(to);
+    const std::lock_guard turn(win::TurnAt(number));
+    return win::WhenFree<win::Patience>(number, {ERROR_SHARING_VIOLATION, ERROR_ACCESS_DENIED},
+                                        [&] { return MoveFileExW(from.c_str(), to.c_str(), how) != FALSE; });
 }
 
 // Whether a deletion would get through. Some systems replace what they wouldn't remove.
@@ -61,9 +66,10 @@ bool CanBeRemoved(const std::wstring& file) noexcept
 {
     constexpr win::FileUse removal{DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                                    OPEN_EXISTING};
+    const std::lock_guard turn(win::TurnAt(win::NumberOfFile(file)));
     const DWORD attributes = GetFileAttributesW(file.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) == 0 &&
-           win::OpenWhenFree<win::WritersPatience>(file.c_str(), removal);
+           win::OpenWhenFree<win::Patience>(file.c_str(), removal);
 }
 
 } // namespace

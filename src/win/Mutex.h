@@ -3,7 +3,7 @@
 // The locks within a process. They are constants at birth and hold nothing of the heap or the system's: a
 // module that is unloaded leaves nothing of them behind, which can't be said of the run-time library's.
 //
-// Callers may rely on: nothing here fails. Callers must: lock by std::lock_guard.
+// Callers may rely on: nothing here fails. Callers must: lock by std::lock_guard or std::shared_lock.
 
 #include <windows.h>
 
@@ -22,6 +22,24 @@ public:
 
     void lock() noexcept { AcquireSRWLockExclusive(&m_lock); }
     void unlock() noexcept { ReleaseSRWLockExclusive(&m_lock); }
+
+private:
+    SRWLOCK m_lock = SRWLOCK_INIT;
+};
+
+// By many at once, or by one alone, who is let ahead of those that come later.
+class SharedMutex
+{
+public:
+    constexpr SharedMutex() noexcept = default;
+    SharedMutex(const SharedMutex&) = delete;
+    SharedMutex& operator=(const SharedMutex&) = delete;
+    ~SharedMutex() = default;
+
+    void lock() noexcept { AcquireSRWLockExclusive(&m_lock); }
+    void unlock() noexcept { ReleaseSRWLockExclusive(&m_lock); }
+    void lock_shared() noexcept { AcquireSRWLockShared(&m_lock); }
+    void unlock_shared() noexcept { ReleaseSRWLockShared(&m_lock); }
 
 private:
     SRWLOCK m_lock = SRWLOCK_INIT;

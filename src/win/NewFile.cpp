@@ -81,8 +81,8 @@ NewFile NewFile::CreateOrEmpty(const std::wstring& path) noexcept
 // out.
 void NewFile::Open(const wchar_t* path, DWORD disposition) noexcept
 {
-    m_handle = OpenWhenFree<WritersPatience>(
-        path, {GENERIC_READ | GENERIC_WRITE | DELETE, FILE_SHARE_WRITE, disposition});
+    m_handle =
+        OpenWhenFree<Patience>(path, {GENERIC_READ | GENERIC_WRITE | DELETE, FILE_SHARE_WRITE, disposition});
     if (m_handle)
     {
         SetToGo(m_handle, TRUE);

@@ -16,10 +16,10 @@ namespace norvepa::win
 // Runs `step`, which answers something false when the system refused, again for as long as the file is in
 // use, by the codes given, and it is worth it. The reason of the last refusal stays in the system's last
 // error.
-template <typename Patience, typename Step>
-[[nodiscard]] auto WhenFree(const wchar_t* file, std::initializer_list<DWORD> inUse, const Step& step)
+template <typename Patient, typename Step>
+[[nodiscard]] auto WhenFree(FileNumber file, std::initializer_list<DWORD> inUse, const Step& step)
 {
-    Patience patience(file);
+    Patient patience(file);
     for (;;)
     {
         auto done = step();
@@ -47,10 +47,10 @@ struct FileUse
 };
 
 // Empty, with the reason in the system's last error, when it can't be opened.
-template <typename Patience>
+template <typename Patient>
 [[nodiscard]] Handle OpenWhenFree(const wchar_t* file, const FileUse& use)
 {
-    return WhenFree<Patience>(file, {ERROR_SHARING_VIOLATION}, [&] {
+    return WhenFree<Patient>(NumberOfFile(file), {ERROR_SHARING_VIOLATION}, [&] {
         return Handle(CreateFileW(file, use.access, use.sharing, nullptr, use.disposition,
                                   FILE_ATTRIBUTE_NORMAL, nullptr));
     });

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <atomic>
-#include <functional>
 
 namespace norvepa::win
 {
@@ -13,16 +12,11 @@ namespace
 {
 
 constexpr std::chrono::milliseconds LongestWait{20};
-constexpr unsigned FewestTries = 30;
+constexpr unsigned FewestTries = 100;
 constexpr unsigned PausesToALongOne = 16; // the system's take 1 ms, or up to 16 ms
 constexpr DWORD Remembered = 1'000;       // ms
 
 constexpr std::uint32_t WaitsInVain = 5; // of the process, within the time that they are remembered
-
-// Each file has the place that its number gives it, perhaps together with others: those wait once too often,
-// or let a writer ahead that isn't theirs.
-constexpr std::size_t Places = 64;
-constinit std::array<std::atomic<unsigned>, Places> waitingWriters{};
 
 // Two numbers that change as one.
 struct Pair
@@ -33,6 +27,8 @@ struct Pair
 using AtomicPair = std::atomic<Pair>;
 static_assert(AtomicPair::is_always_lock_free);
 
+// Each file has the place that its number gives it. One that takes another's place is waited for once more.
+constexpr std::size_t Places = 64;
 constinit std::array<AtomicPair, Places> heldFiles{}; // what was waited for in vain, and looked at when
 constinit AtomicPair waitsInVain{};                   // how many, since when
 
@@ -44,7 +40,7 @@ bool IsLately(DWORD when, DWORD now) noexcept
 // Which a look at the file makes last longer.
 bool IsHeldForLong(FileNumber file, DWORD now) noexcept
 {
-    AtomicPair& place = heldFiles[file % Places];
+    AtomicPair& place = heldFiles[file / 2 % Places];
     const Pair held = place.load();
     if (held.what != file || !IsLately(held.when, now))
     {
@@ -62,7 +58,7 @@ bool AreTooManyInVain(DWORD now) noexcept
 
 void HasWaitedInVain(FileNumber file, DWORD now) noexcept
 {
-    heldFiles[file % Places].store({file, now});
+    heldFiles[file / 2 % Places].store({file, now});
     Pair waits = waitsInVain.load();
     Pair more;
     do
@@ -73,12 +69,7 @@ void HasWaitedInVain(FileNumber file, DWORD now) noexcept
 
 } // namespace
 
-FileNumber NumberOfFile(std::wstring_view path) noexcept
-{
-    return static_cast<FileNumber>(std::hash<std::wstring_view>()(path)) | 1;
-}
-
-bool Wait::IsWorthAnotherTry() noexcept
+bool Patience::IsWorthAnotherTry() noexcept
 {
     const auto now = std::chrono::steady_clock::now();
     if (!m_begin)
@@ -91,14 +82,6 @@ bool Wait::IsWorthAnotherTry() noexcept
     }
     Sleep(++m_pauses % PausesToALongOne == 0 ? 1 : 0);
     return true;
-}
-
-ReadersPatience::ReadersPatience(std::wstring_view file) noexcept : m_file(NumberOfFile(file))
-{
-    Wait writers;
-    while (waitingWriters[m_file % Places].load() != 0 && writers.IsWorthAnotherTry())
-    {
-    }
 }
 
 bool ReadersPatience::IsWorthAnotherTry() noexcept
@@ -119,21 +102,11 @@ bool ReadersPatience::IsWorthAnotherTry() noexcept
 
 void ReadersPatience::Opened() noexcept
 {
-    AtomicPair& place = heldFiles[m_file % Places];
+    AtomicPair& place = heldFiles[m_file / 2 % Places];
     if (Pair held = place.load(); held.what == m_file)
     {
         place.compare_exchange_strong(held, Pair{});
     }
-}
-
-WritersPatience::WritersPatience(std::wstring_view file) noexcept : m_file(NumberOfFile(file))
-{
-    ++waitingWriters[m_file % Places];
-}
-
-WritersPatience::~WritersPatience()
-{
-    --waitingWriters[m_file % Places];
 }
 
 } // namespace norvepa::win

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <mutex>
 
 namespace norvepa::win
 {
@@ -16,7 +17,7 @@ namespace
 // A stranger may write meanwhile. Nobody may remove the file: who then makes another in its place would fail.
 constexpr FileUse Reading{GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING};
 
-// Reading keeps out who reads, and who writes as we do. That others may write lets Flush() in.
+// Reading keeps out who reads, and who writes as we do. That others may write lets the flush have its own.
 constexpr FileUse Writing{GENERIC_READ | GENERIC_WRITE, FILE_SHARE_WRITE, OPEN_EXISTING};
 
 constexpr DWORD Everybody = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
@@ -56,7 +57,7 @@ bool Replace(const Handle& file, std::string_view bytes, std::string_view blank)
     {
         return false;
     }
-    const auto before = ReadBytes(file, size.QuadPart);
+    const auto before = ReadBytes(file.get(), size.QuadPart);
     if (!before)
     {
         return false;
@@ -72,13 +73,25 @@ bool Replace(const Handle& file, std::string_view bytes, std::string_view blank)
     return written;
 }
 
-// A disk may take longer than anybody waits for a file in use: the file is let go of ahead of it.
-void LetGoAndFlush(const std::wstring& path, Handle file) noexcept
+// None when the file can't be opened for writing.
+std::optional<bool> WriteKnownFile(const std::wstring& path, std::string_view bytes, std::string_view blank)
 {
-    const Handle shared(CreateFileW(path.c_str(), GENERIC_WRITE, Everybody, nullptr, OPEN_EXISTING,
+    Handle shared;
+    bool written = false;
+    {
+        const std::lock_guard turn(TurnAt(NumberOfFile(path)));
+        const Handle alone = OpenWhenFree<Patience>(path.c_str(), Writing);
+        if (!alone)
+        {
+            return std::nullopt;
+        }
+        written = Replace(alone, bytes, blank);
+        shared = Handle(CreateFileW(path.c_str(), GENERIC_WRITE, Everybody, nullptr, OPEN_EXISTING,
                                     FILE_ATTRIBUTE_NORMAL, nullptr));
-    file = {};
+    }
+    // A disk may take longer than anybody waits for a file in use: others have been let in ahead of it.
     FlushFileBuffers(shared.get());
+    return written;
 }
 
 bool MakeWholeFile(const std::wstring& path, std::string_view bytes) noexcept
@@ -87,7 +100,7 @@ bool MakeWholeFile(const std::wstring& path, std::string_view bytes) noexcept
     return made && made.Write(bytes) && made.Keep();
 }
 
-bool Copy(const Handle& source, const NewFile& destination) noexcept
+bool Copy(const FileToRead& source, const NewFile& destination) noexcept
 {
     constexpr std::size_t PieceBytes = 16 * 1024; // on the stack: a copy must not fail for want of memory
 
@@ -106,12 +119,12 @@ bool Copy(const Handle& source, const NewFile& destination) noexcept
 
 } // namespace
 
-Handle OpenToRead(const std::wstring& file) noexcept
+FileToRead::FileToRead(const std::wstring& path)
+    : m_turn(TurnAt(NumberOfFile(path))), m_handle(OpenWhenFree<ReadersPatience>(path.c_str(), Reading))
 {
-    return OpenWhenFree<ReadersPatience>(file.c_str(), Reading);
 }
 
-std::optional<std::string> ReadBytes(const Handle& handle, std::int64_t size)
+std::optional<std::string> ReadBytes(HANDLE file, std::int64_t size)
 {
     if (size > std::numeric_limits<std::int32_t>::max())
     {
@@ -120,7 +133,7 @@ std::optional<std::string> ReadBytes(const Handle& handle, std::int64_t size)
     std::string bytes(static_cast<std::size_t>(size), '\0');
     OVERLAPPED begin{};
     DWORD read = 0;
-    const BOOL done = ReadFile(handle.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, &begin);
+    const BOOL done = ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, &begin);
     if (!done && GetLastError() != ERROR_HANDLE_EOF)
     {
         return std::nullopt;
@@ -130,24 +143,22 @@ std::optional<std::string> ReadBytes(const Handle& handle, std::int64_t size)
 
 std::optional<std::string> ReadWholeFile(const std::wstring& file)
 {
-    const Handle handle = OpenToRead(file);
+    const FileToRead opened(file);
     LARGE_INTEGER size;
-    if (!handle || !GetFileSizeEx(handle.get(), &size))
+    if (!opened || !GetFileSizeEx(opened.get(), &size))
     {
         return std::nullopt;
     }
-    return ReadBytes(handle, size.QuadPart);
+    return ReadBytes(opened.get(), size.QuadPart);
 }
 
 bool WriteWholeFile(const std::wstring& file, std::string_view bytes, std::string_view blank)
 {
     for (;;)
     {
-        if (Handle known = OpenWhenFree<WritersPatience>(file.c_str(), Writing))
+        if (const auto written = WriteKnownFile(file, bytes, blank))
         {
-            const bool written = Replace(known, bytes, blank);
-            LetGoAndFlush(file, std::move(known));
-            return written;
+            return *written;
         }
         if (GetLastError() != ERROR_FILE_NOT_FOUND)
         {
@@ -166,7 +177,7 @@ bool WriteWholeFile(const std::wstring& file, std::string_view bytes, std::strin
 
 bool CopyToNewFile(const std::wstring& source, const std::wstring& destination) noexcept
 {
-    const Handle from = OpenToRead(source);
+    const FileToRead from(source);
     FILE_BASIC_INFO information;
     if (!from || !GetFileInformationByHandleEx(from.get(), FileBasicInfo, &information, sizeof information))
     {

@@ -8,23 +8,37 @@
 // while it is read comes as zero bytes. What was written lies on the disk, not only in the system's memory,
 // when the call comes back. Callers must: expect std::bad_alloc for a file that memory can't hold.
 
+#include "win/FileTurn.h"
 #include "win/Handle.h"
 
 #include <windows.h>
 
 #include <cstdint>
 #include <optional>
+#include <shared_mutex>
 #include <string>
 #include <string_view>
 
 namespace norvepa::win
 {
 
-// Opened for reading. When it can't be, the handle is empty, and the system's last error says why.
-[[nodiscard]] Handle OpenToRead(const std::wstring& file) noexcept;
+// A file that is open for reading. When it can't be opened the object is empty, and the system's last error says
+// why.
+class FileToRead
+{
+public:
+    explicit FileToRead(const std::wstring& path);
+
+    explicit operator bool() const noexcept { return static_cast<bool>(m_handle); }
+    [[nodiscard]] HANDLE get() const noexcept { return m_handle.get(); }
+
+private:
+    std::shared_lock<SharedMutex> m_turn;
+    Handle m_handle; // goes ahead of the turn
+};
 
 // So many bytes from the beginning; none where the system refuses.
-[[nodiscard]] std::optional<std::string> ReadBytes(const Handle& handle, std::int64_t size);
+[[nodiscard]] std::optional<std::string> ReadBytes(HANDLE file, std::int64_t size);
 
 // None when the file can't be opened for reading, or is longer than 2 GB.
 [[nodiscard]] std::optional<std::string> ReadWholeFile(const std::wstring& file);

@@ -118,7 +118,7 @@ CallImages* ImagesOfThisCall()
     return static_cast<CallImages*>(call->images.get());
 }
 
-Image Read(const win::Handle& file, std::int64_t size, HRESULT& status)
+Image Read(HANDLE file, std::int64_t size, HRESULT& status)
 {
     const auto bytes = win::ReadBytes(file, size);
     if (!bytes)
@@ -131,7 +131,7 @@ Image Read(const win::Handle& file, std::int64_t size, HRESULT& status)
 
 Image LookAt(const std::wstring& path, HRESULT& status)
 {
-    const win::Handle file = win::OpenToRead(path);
+    const win::FileToRead file(path);
     if (!file)
     {
         status = HRESULT_FROM_WIN32(GetLastError());
@@ -149,7 +149,7 @@ Image LookAt(const std::wstring& path, HRESULT& status)
     {
         return kept;
     }
-    Image image = Read(file, stamp->size(), status);
+    Image image = Read(file.get(), stamp->size(), status);
     if (image != nullptr && mayBeKept && stamp->IsCertain())
     {
         KeepImage(path, *stamp, image);
