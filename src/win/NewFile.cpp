@@ -57,7 +57,8 @@ bool NewFile::FindPlaceBeside(std::wstring_view path) noexcept
 
     const std::size_t folder = path.find_last_of(L'\\') + 1;
     const std::wstring_view stem = path.substr(folder, path.find_last_of(L'.') - folder);
-    if (folder + mark.size() + stem.size() + extension.size() >= m_beside.size())
+    const std::size_t besideSize = folder + mark.size() + stem.size() + extension.size();
+    if (std::max(path.size(), besideSize) >= m_beside.size()) // which MoveToItsPlace() holds the path in, too
     {
         return false;
     }
