@@ -125,5 +125,61 @@ TEST_F(FileStamps, AreThereForAFileThatOthersReadOrWrite)
     EXPECT_TRUE(FileStamp::Of(written));
 }
 
+TEST_F(FileStamps, AreThoseOfTheFileWhenTheyAreTakenOfAnOpenOne)
+{
+    const win::Handle handle(CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                                         FILE_ATTRIBUTE_NORMAL, nullptr));
+
+    const auto stamp = FileStamp::Of(handle.get());
+
+    EXPECT_TRUE(stamp == FileStamp::Of(file));
+    EXPECT_EQ(stamp->size(), 3);
+}
+
+TEST_F(FileStamps, AreNoneWhenTheSystemDoesNotTell)
+{
+    EXPECT_FALSE(FileStamp::Of(static_cast<HANDLE>(nullptr)));
+}
+
+LARGE_INTEGER Number(std::int64_t number)
+{
+    LARGE_INTEGER large;
+    large.QuadPart = number;
+    return large;
+}
+
+TEST_F(FileStamps, DifferInSizeWriteTimeOrChangeTime)
+{
+    const FileStamp stamp(Number(1), Number(2), Number(3));
+
+    EXPECT_TRUE(stamp == FileStamp(Number(1), Number(2), Number(3)));
+    EXPECT_FALSE(stamp == FileStamp(Number(9), Number(2), Number(3)));
+    EXPECT_FALSE(stamp == FileStamp(Number(1), Number(9), Number(3)));
+    EXPECT_FALSE(stamp == FileStamp(Number(1), Number(2), Number(9)));
+}
+
+// A file is as old as the later of its two times.
+TEST_F(FileStamps, AreCertainWhenBothTimesLieTwoSecondsBack)
+{
+    constexpr std::int64_t second = 10'000'000;
+    FILETIME time;
+    GetSystemTimeAsFileTime(&time);
+    const std::int64_t now = std::int64_t{time.dwHighDateTime} << 32 | time.dwLowDateTime;
+    const auto isCertain = [](std::int64_t written, std::int64_t changed) {
+        return FileStamp(Number(1), Number(written), Number(changed)).IsCertain();
+    };
+
+    EXPECT_TRUE(isCertain(now - 2 * second, now - 2 * second));
+    EXPECT_TRUE(isCertain(now - 9 * second, now - 3 * second));
+    EXPECT_FALSE(isCertain(now - 9 * second, now));
+    EXPECT_FALSE(isCertain(now, now - 9 * second));
+    EXPECT_FALSE(isCertain(now + 9 * second, now - 9 * second));
+}
+
+TEST_F(FileStamps, AreNeverCertainWhereNoChangeTimesAreKept)
+{
+    EXPECT_FALSE(FileStamp(Number(1), Number(2), Number(0)).IsCertain());
+}
+
 } // namespace
 } // namespace norvepa::test

@@ -21,7 +21,7 @@ protected:
     Lock lock;
 };
 
-using Locks = testing::Types<Mutex, RecursiveMutex>;
+using Locks = testing::Types<Mutex, SharedMutex, RecursiveMutex>;
 TYPED_TEST_SUITE(AnyMutex, Locks);
 
 TYPED_TEST(AnyMutex, LetsInOneThreadAtATime)

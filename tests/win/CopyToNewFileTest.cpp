@@ -1,0 +1,231 @@
+#include "support/AtNextPause.h"
+#include "support/FileWriter.h"
+#include "support/OpenFile.h"
+#include "support/StoppedClock.h"
+#include "support/TemporaryFolder.h"
+#include "win/FileCalls.h"
+#include "win/Handle.h"
+#include "win/WholeFile.h"
+
+#include <windows.h>
+
+#include <gmock/gmock.h>
+#include <optional>
+
+namespace norvepa::test
+{
+namespace
+{
+
+using testing::ElementsAre;
+using win::CopyToNewFile;
+
+class ACopiedFile : public testing::Test
+{
+protected:
+    ACopiedFile() { WriteBytes(source, "bytes"); }
+    ~ACopiedFile() override
+    {
+        for (const std::wstring& file : {source, copy})
+        {
+            SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
+        }
+    }
+
+    [[nodiscard]] static WIN32_FILE_ATTRIBUTE_DATA Data(const std::wstring& file)
+    {
+        WIN32_FILE_ATTRIBUTE_DATA data{};
+        EXPECT_TRUE(GetFileAttributesExW(file.c_str(), GetFileExInfoStandard, &data));
+        return data;
+    }
+
+    void SetWriteTime(const FILETIME& time) const
+    {
+        const win::Handle handle(CreateFileW(source.c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING,
+                                             FILE_ATTRIBUTE_NORMAL, nullptr));
+        EXPECT_TRUE(SetFileTime(handle.get(), nullptr, nullptr, &time));
+    }
+
+    StoppedClock clock;
+    TemporaryFolder folder;
+    const std::wstring source = folder / L"source.xml";
+    const std::wstring copy = folder / L"copy.xml";
+};
+
+TEST_F(ACopiedFile, HoldsTheBytesOfItsSource)
+{
+    EXPECT_TRUE(CopyToNewFile(source, copy));
+
+    EXPECT_EQ(ReadBytes(copy), "bytes");
+    EXPECT_EQ(ReadBytes(source), "bytes");
+    EXPECT_THAT(FileNames(folder.path()), ElementsAre(L"copy.xml", L"source.xml"));
+}
+
+TEST_F(ACopiedFile, MayBeOfAnyLength)
+{
+    constexpr std::size_t piece = 16 * 1024;
+    for (const std::size_t length : {std::size_t{0}, piece - 1, piece, piece + 1, std::size_t{100'000}})
+    {
+        const std::wstring destination = folder / (std::to_wstring(length) + L".xml");
+        std::string bytes;
+        for (std::size_t i = 0; i < length; ++i)
+        {
+            bytes += static_cast<char>(i * 31 >> 4);
+        }
+        WriteBytes(source, bytes);
+
+        EXPECT_TRUE(CopyToNewFile(source, destination));
+
+        EXPECT_TRUE(ReadBytes(destination) == bytes) << length;
+    }
+}
+
+TEST_F(ACopiedFile, HasTheWriteTimeOfItsSource)
+{
+    constexpr FILETIME longAgo{0x12345680, 0x01C00000};
+    SetWriteTime(longAgo);
+
+    EXPECT_TRUE(CopyToNewFile(source, copy));
+
+    const FILETIME expected = Data(source).ftLastWriteTime;
+    EXPECT_EQ(expected.dwHighDateTime, longAgo.dwHighDateTime);
+    const FILETIME written = Data(copy).ftLastWriteTime;
+    EXPECT_EQ(CompareFileTime(&written, &expected), 0);
+}
+
+TEST_F(ACopiedFile, HasTheAttributesOfItsSource)
+{
+    SetFileAttributesW(source.c_str(), FILE_ATTRIBUTE_HIDDEN);
+
+    EXPECT_TRUE(CopyToNewFile(source, copy));
+
+    EXPECT_TRUE(Data(copy).dwFileAttributes & FILE_ATTRIBUTE_HIDDEN);
+    EXPECT_EQ(Data(copy).dwFileAttributes, Data(source).dwFileAttributes);
+}
+
+TEST_F(ACopiedFile, MayOnlyBeReadWhenItsSourceMay)
+{
+    SetFileAttributesW(source.c_str(), FILE_ATTRIBUTE_READONLY);
+
+    EXPECT_TRUE(CopyToNewFile(source, copy));
+
+    EXPECT_TRUE(Data(copy).dwFileAttributes & FILE_ATTRIBUTE_READONLY);
+    EXPECT_EQ(ReadBytes(copy), "bytes");
+    EXPECT_THAT(FileNames(folder.path()), ElementsAre(L"copy.xml", L"source.xml"));
+}
+
+TEST_F(ACopiedFile, HasASource)
+{
+    EXPECT_FALSE(CopyToNewFile(folder / L"missing.xml", copy));
+
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_FILE_NOT_FOUND});
+    EXPECT_FALSE(Exists(copy));
+}
+
+TEST_F(ACopiedFile, IsNotMadeOfAFolder)
+{
+    EXPECT_FALSE(CopyToNewFile(folder.path(), copy));
+
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
+    EXPECT_THAT(FileNames(folder.path()), ElementsAre(L"source.xml"));
+}
+
+TEST_F(ACopiedFile, DoesNotTakeThePlaceOfAnother)
+{
+    WriteBytes(copy, "another");
+
+    EXPECT_FALSE(CopyToNewFile(source, copy));
+
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_FILE_EXISTS});
+    EXPECT_EQ(ReadBytes(copy), "another");
+}
+
+TEST_F(ACopiedFile, DoesNotTakeThePlaceOfAnotherThatIsMadeMeanwhile)
+{
+    FileCalls calls;
+    calls.beforeMove = [&] { WriteBytes(copy, "another"); };
+
+    EXPECT_FALSE(CopyToNewFile(source, copy));
+
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_FILE_EXISTS});
+    EXPECT_EQ(ReadBytes(copy), "another");
+    EXPECT_THAT(FileNames(folder.path()), ElementsAre(L"copy.xml", L"source.xml"));
+}
+
+TEST_F(ACopiedFile, HasAFolder)
+{
+    EXPECT_FALSE(CopyToNewFile(source, folder / L"gone\\copy.xml"));
+
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_PATH_NOT_FOUND});
+}
+
+TEST_F(ACopiedFile, IsNotMadeOfASourceThatSomebodyKeepsToHimself)
+{
+    const OpenFile holder(source, 0);
+
+    EXPECT_FALSE(CopyToNewFile(source, copy));
+
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_SHARING_VIOLATION});
+    EXPECT_FALSE(Exists(copy));
+}
+
+TEST_F(ACopiedFile, IsMadeOnceItsSourceIsFree)
+{
+    std::optional<OpenFile> holder(std::in_place, source, 0);
+    const AtNextPause pause([&] { holder.reset(); });
+
+    EXPECT_TRUE(CopyToNewFile(source, copy));
+
+    EXPECT_TRUE(pause.hasBeen());
+    EXPECT_EQ(ReadBytes(copy), "bytes");
+}
+
+TEST_F(ACopiedFile, IsMadeWhileOthersReadAndWriteItsSource)
+{
+    const OpenFile reader(source, FILE_SHARE_READ | FILE_SHARE_WRITE);
+    const FileWriter writer(source);
+
+    EXPECT_TRUE(CopyToNewFile(source, copy));
+
+    EXPECT_EQ(ReadBytes(copy), "bytes");
+}
+
+TEST_F(ACopiedFile, IsNotThereBeforeItIsWholeAndOnTheDisk)
+{
+    FileCalls calls;
+    calls.beforeMove = [&] { EXPECT_FALSE(Exists(copy)); };
+
+    EXPECT_TRUE(CopyToNewFile(source, copy));
+
+    EXPECT_THAT(calls.told, ElementsAre("write 5", "write 0", "flush", "move"));
+}
+
+TEST_F(ACopiedFile, IsNotThereWhenTheDiskTakesAPart)
+{
+    FileCalls calls;
+    calls.roomForNextWrite = 2;
+
+    EXPECT_FALSE(CopyToNewFile(source, copy));
+
+    EXPECT_THAT(FileNames(folder.path()), ElementsAre(L"source.xml"));
+}
+
+BOOL WINAPI ReadNothing(HANDLE /*file*/, void* /*bytes*/, DWORD /*size*/, DWORD* /*read*/,
+                        OVERLAPPED* /*place*/)
+{
+    SetLastError(ERROR_CRC);
+    return FALSE;
+}
+
+TEST_F(ACopiedFile, IsNotThereWhenItsSourceCanNotBeReadToItsEnd)
+{
+    const ImportHook reading("ReadFile", ReadNothing);
+
+    EXPECT_FALSE(CopyToNewFile(source, copy));
+
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_CRC});
+    EXPECT_THAT(FileNames(folder.path()), ElementsAre(L"source.xml"));
+}
+
+} // namespace
+} // namespace norvepa::test
