@@ -2,6 +2,8 @@
 
 #include "win/ThreadPlace.h"
 
+#include <functional>
+
 namespace norvepa
 {
 
@@ -12,7 +14,19 @@ constinit win::ThreadPlace<CallScope> current;
 
 } // namespace
 
-CallScope::CallScope() noexcept : m_isOutermost(current.Get() == nullptr)
+namespace
+{
+
+// A scope around another one lies above it on the stack. One that doesn't has been left by a host that caught
+// a fault beyond it, and is no more.
+bool IsAround(const CallScope* outer, const CallScope* inner) noexcept
+{
+    return std::less<>()(inner, outer);
+}
+
+} // namespace
+
+CallScope::CallScope() noexcept : m_isOutermost(!IsAround(current.Get(), this))
 {
     if (m_isOutermost)
     {

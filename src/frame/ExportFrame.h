@@ -41,7 +41,7 @@ template <typename Body>
                                 TracePlace place = TracePlace::current()) noexcept
 {
     const ExportFrame frame{tag};
-    const CallScope scope;
+    CallScope scope;
     try
     {
         return body(frame);

@@ -82,6 +82,11 @@ Result initWatchDirectories(const std::wstring& dataFolder)
     return result;
 }
 
+bool IsWatching() noexcept
+{
+    return watchActive;
+}
+
 void deinitWatchDirectories()
 {
     constexpr TraceSource source{"deinitWatchDirectories: ", " BL"};

@@ -27,6 +27,8 @@ inline constexpr Result NoListing{-1};
 // Sets up the watch of the two folders below the data folder, unless it is there. PGSP_OK or NoListing.
 [[nodiscard]] Result initWatchDirectories(const std::wstring& dataFolder);
 
+[[nodiscard]] bool IsWatching() noexcept;
+
 // Ends the watch. The next query sets it up again.
 void deinitWatchDirectories();
 

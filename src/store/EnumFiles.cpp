@@ -50,7 +50,11 @@ Result FileWalk::At(std::uint32_t index, std::wstring* name)
         return m_escaping;
     }
 
-    // A folder that can't be read is one without files.
+    // A folder that can't be read is one without files. Without a watch nothing is kept from step to step.
+    if (!IsWatching())
+    {
+        m_listing = nullptr;
+    }
     if (m_listing == nullptr && getDirectoryContent(m_folderPath, m_dataFolder, m_listing) != PGSP_OK)
     {
         m_listing = nullptr;

@@ -61,15 +61,18 @@ bool MoveWhenFree(const std::wstring& from, const std::wstring& to, DWORD how) n
                                         [&] { return MoveFileExW(from.c_str(), to.c_str(), how) != FALSE; });
 }
 
-// Whether a deletion would get through. Some systems replace what they wouldn't remove.
-bool CanBeRemoved(const std::wstring& file) noexcept
+// A file that is there and not kept from being removed: some systems replace what they wouldn't remove.
+bool MayBeRemoved(const std::wstring& file) noexcept
 {
-    constexpr win::FileUse removal{DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                                   OPEN_EXISTING};
-    const std::lock_guard turn(win::TurnAt(win::NumberOfFile(file)));
     const DWORD attributes = GetFileAttributesW(file.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) == 0 &&
-           win::OpenWhenFree<win::Patience>(file.c_str(), removal);
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) == 0;
+}
+
+// Whether it is this file that is in the way of its renaming.
+bool IsHeld(const std::wstring& file) noexcept
+{
+    constexpr DWORD everybody = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    return !win::Open(file.c_str(), {DELETE, everybody, OPEN_EXISTING});
 }
 
 } // namespace
@@ -168,8 +171,8 @@ Result Replacing::Run() const noexcept
     ForgetImages();
     constexpr DWORD inItsPlace = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
     const bool replaced =
-        CanBeRemoved(m_files.newFile) && MoveWhenFree(m_files.oldFile, m_files.newFile, inItsPlace);
-    if (!replaced && !CanBeRemoved(m_files.newFile))
+        MayBeRemoved(m_files.newFile) && MoveWhenFree(m_files.oldFile, m_files.newFile, inItsPlace);
+    if (!replaced && (!MayBeRemoved(m_files.newFile) || !IsHeld(m_files.oldFile)))
     {
         NORV_TRACE(deletion, TraceEntry, "PGSP_ERR_CANT_DELETE_FILE");
         return PGSP_ERR_CANT_DELETE_FILE;

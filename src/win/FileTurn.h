@@ -4,8 +4,8 @@
 // readers that come one behind the other would keep a writer out for good; other processes are kept apart by
 // the share modes of an open file alone.
 //
-// Callers must: hold a turn for as long as the file is open, and never two at once: of two files each may have
-// the other's place.
+// Callers must: hold a turn for as long as the file is open, and never two at once: of two files each may
+// have the other's place.
 
 #include "win/Mutex.h"
 

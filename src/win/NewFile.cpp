@@ -3,6 +3,7 @@
 #include "win/OpenWhenFree.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace norvepa::win
 {
@@ -10,7 +11,10 @@ namespace norvepa::win
 namespace
 {
 
-constexpr DWORD Everybody = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr DWORD Everything = GENERIC_READ | GENERIC_WRITE | DELETE;
+
+// That others may write lets the flush have a handle of its own; reading keeps everybody else out.
+constexpr DWORD Alone = FILE_SHARE_WRITE;
 
 bool IsThere(const wchar_t* path) noexcept
 {
@@ -36,16 +40,29 @@ NewFile NewFile::CreateBeside(const std::wstring& path) noexcept
     }
     if (!made.FindPlaceBeside(path))
     {
-        made.Open(made.m_path, CREATE_NEW);
+        made.Take(Open(made.m_path, {Everything, Alone, CREATE_NEW}));
         return made;
     }
-    made.Open(made.m_beside.data(), CREATE_ALWAYS); // there may be one whose maker came to its end
-    if (made && IsThere(made.m_path))               // for another was at it, and this one has waited
+    // There may be one whose maker came to its end. Another maker is waited for: a file that is to go is told
+    // by some systems as one in use, by others as one that can't be had.
+    made.Take(WhenFree<Patience>(NumberOfFile(path), {ERROR_SHARING_VIOLATION, ERROR_ACCESS_DENIED}, [&] {
+        return Open(made.m_beside.data(), {Everything, Alone, CREATE_ALWAYS});
+    }));
+    if (made && IsThere(made.m_path)) // which another has made meanwhile
     {
         made.m_handle = {};
         SetLastError(ERROR_FILE_EXISTS);
     }
     return made;
+}
+
+void NewFile::Take(Handle opened) noexcept
+{
+    m_handle = std::move(opened);
+    if (m_handle)
+    {
+        SetToGo(m_handle, TRUE);
+    }
 }
 
 // By the same name for all who make this file, so that they meet. It is longer by one: there may be no room
@@ -74,20 +91,8 @@ bool NewFile::FindPlaceBeside(std::wstring_view path) noexcept
 NewFile NewFile::CreateOrEmpty(const std::wstring& path) noexcept
 {
     NewFile made(path.c_str());
-    made.Open(made.m_path, CREATE_ALWAYS);
+    made.Take(Open(made.m_path, {Everything, Alone, CREATE_ALWAYS}));
     return made;
-}
-
-// That others may write lets LetOthersInAndFlush() open the file a second time; reading keeps everybody else
-// out.
-void NewFile::Open(const wchar_t* path, DWORD disposition) noexcept
-{
-    m_handle =
-        OpenWhenFree<Patience>(path, {GENERIC_READ | GENERIC_WRITE | DELETE, FILE_SHARE_WRITE, disposition});
-    if (m_handle)
-    {
-        SetToGo(m_handle, TRUE);
-    }
 }
 
 bool NewFile::Write(std::string_view bytes) const noexcept
@@ -105,6 +110,25 @@ void NewFile::Empty() const noexcept
 
 bool NewFile::Keep() noexcept
 {
+    return KeepAs({}); // by which nothing is changed
+}
+
+bool NewFile::KeepAs(const FILE_BASIC_INFO& other) noexcept
+{
+    if (!PutInItsPlace())
+    {
+        return false;
+    }
+    // Behind that: what is left beside the place mustn't be kept from being removed.
+    FILE_BASIC_INFO information{};
+    information.LastWriteTime = other.LastWriteTime;
+    information.FileAttributes = other.FileAttributes;
+    SetFileInformationByHandle(m_handle.get(), FileBasicInfo, &information, sizeof information);
+    return true;
+}
+
+bool NewFile::PutInItsPlace() noexcept
+{
     if (m_beside.front() == L'\0')
     {
         LetOthersInAndFlush();
@@ -112,15 +136,6 @@ bool NewFile::Keep() noexcept
     }
     FlushFileBuffers(m_handle.get());
     return MoveToItsPlace();
-}
-
-bool NewFile::KeepAs(const FILE_BASIC_INFO& other) noexcept
-{
-    FILE_BASIC_INFO information{};
-    information.LastWriteTime = other.LastWriteTime;
-    information.FileAttributes = other.FileAttributes;
-    SetFileInformationByHandle(m_handle.get(), FileBasicInfo, &information, sizeof information);
-    return Keep();
 }
 
 // By the handle, which keeps everybody out until it has happened.
@@ -149,11 +164,11 @@ bool NewFile::MoveToItsPlace() noexcept
 // A disk may take longer than anybody waits for a file in use: others are let in ahead of it.
 void NewFile::LetOthersInAndFlush() noexcept
 {
+    constexpr DWORD everybody = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     SetToGo(m_handle, FALSE);
-    const Handle shared(CreateFileW(m_path, GENERIC_WRITE, Everybody, nullptr, OPEN_EXISTING,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr));
-    m_handle = {};
-    FlushFileBuffers(shared.get());
+    m_handle =
+        Open(m_path, {GENERIC_WRITE, everybody, OPEN_EXISTING}); // ahead of the closing of the other one
+    FlushFileBuffers(m_handle.get());
 }
 
 } // namespace norvepa::win

@@ -47,7 +47,8 @@ private:
     explicit NewFile(const wchar_t* path) noexcept : m_path(path) {}
 
     [[nodiscard]] bool FindPlaceBeside(std::wstring_view path) noexcept;
-    void Open(const wchar_t* path, DWORD disposition) noexcept;
+    void Take(Handle opened) noexcept;
+    [[nodiscard]] bool PutInItsPlace() noexcept;
     [[nodiscard]] bool MoveToItsPlace() noexcept;
     void LetOthersInAndFlush() noexcept;
 

@@ -47,13 +47,16 @@ struct FileUse
 };
 
 // Empty, with the reason in the system's last error, when it can't be opened.
-template <typename Patient>
-[[nodiscard]] Handle OpenWhenFree(const wchar_t* file, const FileUse& use)
+[[nodiscard]] inline Handle Open(const wchar_t* file, const FileUse& use) noexcept
 {
-    return WhenFree<Patient>(NumberOfFile(file), {ERROR_SHARING_VIOLATION}, [&] {
-        return Handle(CreateFileW(file, use.access, use.sharing, nullptr, use.disposition,
-                                  FILE_ATTRIBUTE_NORMAL, nullptr));
-    });
+    return Handle(
+        CreateFileW(file, use.access, use.sharing, nullptr, use.disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
+// The same once it is free.
+[[nodiscard]] inline Handle OpenWhenFree(const wchar_t* file, const FileUse& use)
+{
+    return WhenFree<Patience>(NumberOfFile(file), {ERROR_SHARING_VIOLATION}, [&] { return Open(file, use); });
 }
 
 } // namespace norvepa::win

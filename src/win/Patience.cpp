@@ -11,10 +11,11 @@ namespace norvepa::win
 namespace
 {
 
-constexpr std::chrono::milliseconds LongestWait{20};
-constexpr unsigned FewestTries = 100;
-constexpr unsigned PausesToALongOne = 16; // the system's take 1 ms, or up to 16 ms
-constexpr DWORD Remembered = 1'000;       // ms
+// A pause of the system's takes 1 ms, or up to 16 ms: none begins when that would be too late.
+constexpr unsigned PausesToALongOne = 16;
+constexpr std::chrono::milliseconds LastLongPause{4};
+
+constexpr DWORD Remembered = 1'000; // ms
 
 constexpr std::uint32_t WaitsInVain = 5; // of the process, within the time that they are remembered
 
@@ -46,7 +47,8 @@ bool IsHeldForLong(FileNumber file, DWORD now) noexcept
     {
         return false;
     }
-    place.store({file, now});
+    Pair known = held;
+    place.compare_exchange_strong(known, {file, now}); // unless it has just been opened
     return true;
 }
 
@@ -69,44 +71,53 @@ void HasWaitedInVain(FileNumber file, DWORD now) noexcept
 
 } // namespace
 
+const Patience::Limit Patience::Long{std::chrono::milliseconds(20), 100};
+const Patience::Limit Patience::Short{std::chrono::milliseconds(1), 5};
+
 bool Patience::IsWorthAnotherTry() noexcept
+{
+    return IsWithin(Long);
+}
+
+bool Patience::IsWithin(const Limit& limit) noexcept
 {
     const auto now = std::chrono::steady_clock::now();
     if (!m_begin)
     {
         m_begin = now;
     }
-    if (now - *m_begin >= LongestWait && m_pauses >= FewestTries)
+    const auto waited = now - *m_begin;
+    if (waited >= limit.time && m_pauses >= limit.fewestTries)
     {
         return false;
     }
-    Sleep(++m_pauses % PausesToALongOne == 0 ? 1 : 0);
+    const bool isLong = ++m_pauses % PausesToALongOne == 0 && waited < LastLongPause;
+    Sleep(isLong ? 1 : 0);
     return true;
 }
 
-bool ReadersPatience::IsWorthAnotherTry() noexcept
-{
-    const DWORD now = GetTickCount();
-    if (!m_hasWaited && (IsHeldForLong(m_file, now) || AreTooManyInVain(now)))
-    {
-        return false;
-    }
-    m_hasWaited = true;
-    if (m_wait.IsWorthAnotherTry())
-    {
-        return true;
-    }
-    HasWaitedInVain(m_file, now);
-    return false;
-}
-
-void ReadersPatience::Opened() noexcept
+void Patience::Opened() const noexcept
 {
     AtomicPair& place = heldFiles[m_file / 2 % Places];
     if (Pair held = place.load(); held.what == m_file)
     {
         place.compare_exchange_strong(held, Pair{});
     }
+}
+
+bool ReadersPatience::IsWorthAnotherTry() noexcept
+{
+    const DWORD now = GetTickCount();
+    if (m_limit == nullptr)
+    {
+        m_limit = IsHeldForLong(file(), now) || AreTooManyInVain(now) ? &Short : &Long;
+    }
+    const bool isWorthIt = IsWithin(*m_limit);
+    if (!isWorthIt && m_limit == &Long)
+    {
+        HasWaitedInVain(file(), now);
+    }
+    return isWorthIt;
 }
 
 } // namespace norvepa::win

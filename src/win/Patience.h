@@ -5,10 +5,10 @@
 // slow.
 //
 // Callers may rely on: a wait takes 20 ms at most, with a try behind it; only on a machine so busy that this
-// isn't the time for a hundred tries it takes a hundred tries. A reader doesn't wait again for a file that one
-// has waited for in vain, until it has been opened or nobody has looked at it for a second; and behind five
-// waits in vain within a second no reader waits for the rest of it. So a walk over a hundred files of which one
-// is held is late by 20 ms once, and by 100 ms if all of them are.
+// isn't the time for a hundred tries it takes a hundred tries. A reader waits 1 ms for a file that one has
+// waited for in vain, until it has been opened or nobody has looked at it for a second; and behind five waits
+// in vain within a second all readers do for the rest of it. So a walk over a hundred files of which one is
+// held is late by 21 ms, and by a fifth of a second if all of them are.
 
 #include "win/FileTurn.h"
 
@@ -22,30 +22,40 @@ namespace norvepa::win
 class Patience
 {
 public:
-    explicit Patience(FileNumber) noexcept {}
+    explicit Patience(FileNumber file) noexcept : m_file(file) {}
 
     // Behind a short pause. False when the time was up already.
     [[nodiscard]] bool IsWorthAnotherTry() noexcept;
 
-    void Opened() noexcept {}
+    void Opened() const noexcept; // and so in nobody's way any more
+
+protected:
+    struct Limit
+    {
+        std::chrono::milliseconds time;
+        unsigned fewestTries;
+    };
+    static const Limit Long;
+    static const Limit Short;
+
+    [[nodiscard]] bool IsWithin(const Limit& limit) noexcept;
+    [[nodiscard]] FileNumber file() const noexcept { return m_file; }
 
 private:
+    FileNumber m_file;
     std::optional<std::chrono::steady_clock::time_point> m_begin; // of the wait
     unsigned m_pauses = 0;
 };
 
-class ReadersPatience
+class ReadersPatience : public Patience
 {
 public:
-    explicit ReadersPatience(FileNumber file) noexcept : m_file(file), m_wait(file) {}
+    using Patience::Patience;
 
     [[nodiscard]] bool IsWorthAnotherTry() noexcept;
-    void Opened() noexcept; // and so in nobody's way any more
 
 private:
-    FileNumber m_file;
-    Patience m_wait;
-    bool m_hasWaited = false;
+    const Limit* m_limit = nullptr; // until the first pause
 };
 
 } // namespace norvepa::win

@@ -14,13 +14,14 @@ namespace norvepa::win
 namespace
 {
 
-// A stranger may write meanwhile. Nobody may remove the file: who then makes another in its place would fail.
-constexpr FileUse Reading{GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING};
+// Nobody may remove the file: who then makes another in its place would fail.
+constexpr FileUse Reading{GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING};
+constexpr FileUse ReadingBesideWriters{GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING};
 
 // Reading keeps out who reads, and who writes as we do. That others may write lets the flush have its own.
 constexpr FileUse Writing{GENERIC_READ | GENERIC_WRITE, FILE_SHARE_WRITE, OPEN_EXISTING};
 
-constexpr DWORD Everybody = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr FileUse Flushing{GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING};
 
 bool WriteFromBegin(const Handle& file, std::string_view bytes) noexcept
 {
@@ -80,14 +81,13 @@ std::optional<bool> WriteKnownFile(const std::wstring& path, std::string_view by
     bool written = false;
     {
         const std::lock_guard turn(TurnAt(NumberOfFile(path)));
-        const Handle alone = OpenWhenFree<Patience>(path.c_str(), Writing);
+        const Handle alone = OpenWhenFree(path.c_str(), Writing);
         if (!alone)
         {
             return std::nullopt;
         }
         written = Replace(alone, bytes, blank);
-        shared = Handle(CreateFileW(path.c_str(), GENERIC_WRITE, Everybody, nullptr, OPEN_EXISTING,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr));
+        shared = Open(path.c_str(), Flushing);
     }
     // A disk may take longer than anybody waits for a file in use: others have been let in ahead of it.
     FlushFileBuffers(shared.get());
@@ -100,16 +100,23 @@ bool MakeWholeFile(const std::wstring& path, std::string_view bytes) noexcept
     return made && made.Write(bytes) && made.Keep();
 }
 
-bool Copy(const FileToRead& source, const NewFile& destination) noexcept
+// The source is let go of ahead of the flush of the copy.
+bool CopyInto(const NewFile& copy, const std::wstring& path, FILE_BASIC_INFO& information) noexcept
 {
     constexpr std::size_t PieceBytes = 16 * 1024; // on the stack: a copy must not fail for want of memory
 
+    const FileToRead source(path);
+    if (!source ||
+        !GetFileInformationByHandleEx(source.get(), FileBasicInfo, &information, sizeof information))
+    {
+        return false;
+    }
     std::array<char, PieceBytes> piece;
     DWORD read = 0;
     do
     {
         if (!ReadFile(source.get(), piece.data(), PieceBytes, &read, nullptr) ||
-            !destination.Write({piece.data(), read}))
+            !copy.Write({piece.data(), read}))
         {
             return false;
         }
@@ -119,9 +126,17 @@ bool Copy(const FileToRead& source, const NewFile& destination) noexcept
 
 } // namespace
 
-FileToRead::FileToRead(const std::wstring& path)
-    : m_turn(TurnAt(NumberOfFile(path))), m_handle(OpenWhenFree<ReadersPatience>(path.c_str(), Reading))
+FileToRead::FileToRead(const std::wstring& path) : m_turn(TurnAt(NumberOfFile(path)))
 {
+    m_handle = WhenFree<ReadersPatience>(NumberOfFile(path), {ERROR_SHARING_VIOLATION},
+                                         [&] { return OpenBesideWriters(path.c_str()); });
+}
+
+Handle FileToRead::OpenBesideWriters(const wchar_t* path) noexcept
+{
+    Handle opened = Open(path, Reading);
+    m_isWrittenTo = !opened && GetLastError() == ERROR_SHARING_VIOLATION;
+    return m_isWrittenTo ? Open(path, ReadingBesideWriters) : std::move(opened);
 }
 
 std::optional<std::string> ReadBytes(HANDLE file, std::int64_t size)
@@ -154,7 +169,8 @@ std::optional<std::string> ReadWholeFile(const std::wstring& file)
 
 bool WriteWholeFile(const std::wstring& file, std::string_view bytes, std::string_view blank)
 {
-    for (;;)
+    // Others may make it or take it away at the same time, but not for ever.
+    for (int tries = 0; tries < 3; ++tries)
     {
         if (const auto written = WriteKnownFile(file, bytes, blank))
         {
@@ -173,18 +189,14 @@ bool WriteWholeFile(const std::wstring& file, std::string_view bytes, std::strin
             return false;
         }
     }
+    return false;
 }
 
 bool CopyToNewFile(const std::wstring& source, const std::wstring& destination) noexcept
 {
-    const FileToRead from(source);
     FILE_BASIC_INFO information;
-    if (!from || !GetFileInformationByHandleEx(from.get(), FileBasicInfo, &information, sizeof information))
-    {
-        return false;
-    }
-    NewFile to = NewFile::CreateBeside(destination);
-    return to && Copy(from, to) && to.KeepAs(information);
+    NewFile made = NewFile::CreateBeside(destination);
+    return made && CopyInto(made, source, information) && made.KeepAs(information);
 }
 
 } // namespace norvepa::win

@@ -3,10 +3,11 @@
 // A file's bytes, read at once and written at once.
 //
 // Callers may rely on: whoever reads and writes by these functions never meets the other half-way, in
-// whatever process, and neither fails because of the other: both wait for as long as win/Patience.h tells.
-// Strangers may read and write a file while it is read here, but not while it is written. What is cut off
-// while it is read comes as zero bytes. What was written lies on the disk, not only in the system's memory,
-// when the call comes back. Callers must: expect std::bad_alloc for a file that memory can't hold.
+// whatever process, and neither fails because of the other: both wait for as long as win/Patience.h tells. A
+// stranger who has a file open for writing may go on while it is read here; none comes to it meanwhile, nor
+// reads it while it is written. What is cut off while it is read comes as zero bytes. What was written lies
+// on the disk, not only in the system's memory, when the call comes back. Callers must: expect std::bad_alloc
+// for a file that memory can't hold.
 
 #include "win/FileTurn.h"
 #include "win/Handle.h"
@@ -22,8 +23,8 @@
 namespace norvepa::win
 {
 
-// A file that is open for reading. When it can't be opened the object is empty, and the system's last error says
-// why.
+// A file that is open for reading. When it can't be opened the object is empty, and the system's last error
+// says why.
 class FileToRead
 {
 public:
@@ -32,8 +33,15 @@ public:
     explicit operator bool() const noexcept { return static_cast<bool>(m_handle); }
     [[nodiscard]] HANDLE get() const noexcept { return m_handle.get(); }
 
+    // True while somebody has it open for writing: the system may tell only when he closes it that it
+    // changed.
+    [[nodiscard]] bool isWrittenTo() const noexcept { return m_isWrittenTo; }
+
 private:
+    [[nodiscard]] Handle OpenBesideWriters(const wchar_t* path) noexcept;
+
     std::shared_lock<SharedMutex> m_turn;
+    bool m_isWrittenTo = false;
     Handle m_handle; // goes ahead of the turn
 };
 

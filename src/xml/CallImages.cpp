@@ -7,7 +7,9 @@
 #include "xml/ImageCache.h"
 #include "xml/ImageMaker.h"
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -21,12 +23,13 @@ using Image = std::shared_ptr<const XmlImage>;
 class CallImages final : public CallScope::Keepsake
 {
 public:
-    [[nodiscard]] Image Find(std::wstring_view path) const
+    [[nodiscard]] Image Find(std::wstring_view path)
     {
-        for (const Seen& seen : m_seen)
+        for (Seen& seen : m_seen)
         {
             if (seen.image != nullptr && seen.path == path)
             {
+                seen.lookedAt = ++m_looks;
                 return seen.image;
             }
         }
@@ -35,8 +38,11 @@ public:
 
     void Add(const std::wstring& path, const Image& image)
     {
-        m_seen[m_next] = {path, image};
-        m_next = (m_next + 1) % m_seen.size();
+        Seen& oldest =
+            *std::min_element(m_seen.begin(), m_seen.end(), [](const Seen& left, const Seen& right) {
+                return left.lookedAt < right.lookedAt;
+            });
+        oldest = {path, image, ++m_looks};
     }
 
     void Forget() noexcept
@@ -48,10 +54,10 @@ public:
         m_listing.reset();
     }
 
-    // False when there is a walk already.
+    // False when there is a walk already, and on a file server, whose listings a system may keep for a while.
     [[nodiscard]] bool BeginWalk(const std::wstring& folder)
     {
-        if (!m_folder.empty() || !IsAbsolute(folder))
+        if (!m_folder.empty() || !IsOnADrive(folder))
         {
             return false;
         }
@@ -84,7 +90,12 @@ public:
     // A path that leads to another file once the process's current folder is another isn't one to keep by.
     [[nodiscard]] static bool IsAbsolute(std::wstring_view path) noexcept
     {
-        return path.starts_with(L"\\\\") || (path.size() > 2 && path[1] == L':' && path[2] == L'\\');
+        return path.starts_with(L"\\\\") || IsOnADrive(path);
+    }
+
+    [[nodiscard]] static bool IsOnADrive(std::wstring_view path) noexcept
+    {
+        return path.size() > 2 && path[1] == L':' && path[2] == L'\\';
     }
 
 private:
@@ -92,10 +103,11 @@ private:
     {
         std::wstring path;
         Image image;
+        std::uint64_t lookedAt = 0; // the last time, counted in looks
     };
 
     std::array<Seen, 8> m_seen;
-    std::size_t m_next = 0;
+    std::uint64_t m_looks = 0;
     std::wstring m_folder; // with its backslash, while a walk goes on
     std::optional<win::FolderListing> m_listing;
 };
@@ -118,41 +130,53 @@ CallImages* ImagesOfThisCall()
     return static_cast<CallImages*>(call->images.get());
 }
 
-Image Read(HANDLE file, std::int64_t size, HRESULT& status)
+HRESULT LastError() noexcept
 {
-    const auto bytes = win::ReadBytes(file, size);
-    if (!bytes)
+    return HRESULT_FROM_WIN32(GetLastError());
+}
+
+// What a look at a file brings: the image that is kept of it, or else its bytes; neither where it failed.
+struct Look
+{
+    Image kept;
+    std::optional<std::string> bytes;
+    std::optional<win::FileStamp> stamp; // of bytes whose image may be kept
+};
+
+// The file is open no longer than this takes: an engine takes its time with what it reads, and a writer
+// waits.
+Look LookAtFile(const std::wstring& path, HRESULT& status)
+{
+    const win::FileToRead file(path);
+    const auto stamp = file ? win::FileStamp::Of(file.get()) : std::nullopt;
+    if (!stamp)
     {
-        status = HRESULT_FROM_WIN32(ERROR_READ_FAULT);
-        return nullptr;
+        status = LastError();
+        return {};
     }
-    return ImageMaker::Make(*bytes, status);
+    const bool mayBeKept = !file.isWrittenTo() && CallImages::IsAbsolute(path);
+    if (Image kept = mayBeKept ? FindImage(path, *stamp) : nullptr)
+    {
+        return {std::move(kept), {}, {}};
+    }
+    Look look{{}, win::ReadBytes(file.get(), stamp->size()), {}};
+    status = look.bytes ? S_OK : LastError();
+    look.stamp = mayBeKept && stamp->IsCertain() ? stamp : std::nullopt;
+    return look;
 }
 
 Image LookAt(const std::wstring& path, HRESULT& status)
 {
-    const win::FileToRead file(path);
-    if (!file)
-    {
-        status = HRESULT_FROM_WIN32(GetLastError());
-        return nullptr;
-    }
-    const auto stamp = win::FileStamp::Of(file.get());
-    if (!stamp)
-    {
-        status = HRESULT_FROM_WIN32(GetLastError());
-        return nullptr;
-    }
     status = S_OK;
-    const bool mayBeKept = CallImages::IsAbsolute(path);
-    if (Image kept = mayBeKept ? FindImage(path, *stamp) : nullptr)
+    const Look look = LookAtFile(path, status);
+    if (look.kept != nullptr || !look.bytes)
     {
-        return kept;
+        return look.kept;
     }
-    Image image = Read(file.get(), stamp->size(), status);
-    if (image != nullptr && mayBeKept && stamp->IsCertain())
+    Image image = ImageMaker::Make(*look.bytes, status);
+    if (image != nullptr && look.stamp)
     {
-        KeepImage(path, *stamp, image);
+        KeepImage(path, *look.stamp, image);
     }
     return image;
 }

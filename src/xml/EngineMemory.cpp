@@ -12,6 +12,7 @@ namespace
 
 constexpr std::size_t PieceBytes = 32 * 1024;
 constexpr std::size_t LeastBuffer = 4096; // what an engine reads into isn't smaller
+constexpr std::size_t MostRoomOfABuffer = 256 << 20;
 
 std::size_t RoundedUp(std::size_t bytes, std::size_t step) noexcept
 {
@@ -22,7 +23,10 @@ std::size_t RoundedUp(std::size_t bytes, std::size_t step) noexcept
 
 // In UTF-16 an input is twice as long at most, and a buffer that is doubled may get twice as long as it need
 // be.
-EngineMemory::EngineMemory(std::size_t inputBytes) noexcept : m_roomOfBuffers(4 * inputBytes + 64 * 1024) {}
+EngineMemory::EngineMemory(std::size_t inputBytes) noexcept
+    : m_roomOfBuffers(std::min(4 * inputBytes + 64 * 1024, MostRoomOfABuffer))
+{
+}
 
 EngineMemory::~EngineMemory()
 {

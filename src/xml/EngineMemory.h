@@ -4,7 +4,8 @@
 // own for a fraction of what the process's heap would take. All of it goes with the pool.
 //
 // The buffers that it reads into, the first two large blocks that it asks for, have room for as much as the
-// whole input needs, and so never move: there is an engine that goes on reading where its buffer was.
+// whole input needs, and so never move: there is an engine that goes on reading where its buffer was. Only of
+// an input beyond 64 MB a single name or text may be too long for that.
 //
 // Callers must: keep the pool for longer than the engine: its references don't keep it alive. One thread.
 

@@ -161,12 +161,12 @@ std::uint32_t ImageMaker::NumberOfName()
     return number;
 }
 
-std::wstring_view ImageMaker::Value() noexcept
+std::wstring_view ImageMaker::Value()
 {
     const wchar_t* value = nullptr;
     UINT length = 0;
-    return SUCCEEDED(m_engine.GetValue(&value, &length)) && value ? std::wstring_view(value, length)
-                                                                  : std::wstring_view{};
+    return SUCCEEDED(Checked(m_engine.GetValue(&value, &length))) && value ? std::wstring_view(value, length)
+                                                                           : std::wstring_view{};
 }
 
 XmlReadState ImageMaker::State() noexcept

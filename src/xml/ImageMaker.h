@@ -31,7 +31,7 @@ private:
     [[nodiscard]] XmlImage::Span AddAttributes();
     [[nodiscard]] XmlImage::Span AddText(std::wstring_view text);
     [[nodiscard]] std::uint32_t NumberOfName();
-    [[nodiscard]] std::wstring_view Value() noexcept;
+    [[nodiscard]] std::wstring_view Value();
     [[nodiscard]] XmlReadState State() noexcept;
 
     struct Place
