@@ -1,6 +1,6 @@
 #include "store/FileSteps.h"
 
-#include "store/WriteScene.h"
+#include "store/FileStepsScene.h"
 
 namespace norvepa::test
 {
@@ -8,19 +8,10 @@ namespace
 {
 
 // The two halves of a step: what is settled when it is made, and what happens when it runs.
-class FileStepsTest : public WriteScene
-{
-protected:
-    const std::wstring m_source = folder() / L"Quelle#1";
-    const std::wstring m_sourceFile = folder() / L"Quelle(nmbr)1.xml";
-    const std::wstring m_destination = folder() / L"Ziel#1";
-    const std::wstring m_destinationFile = folder() / L"Ziel(nmbr)1.xml";
-    const std::wstring m_tooLong = folder() / std::wstring(260, L'x');
-};
-
-using DeletionTest = FileStepsTest;
-using CopyingTest = FileStepsTest;
-using RenamingTest = FileStepsTest;
+using DeletionTest = FileStepsScene;
+using CopyingTest = FileStepsScene;
+using RenamingTest = FileStepsScene;
+using ReplacingPathsTest = FileStepsScene;
 
 TEST_F(DeletionTest, HappensWhenItRunsAndNotBefore)
 {
@@ -156,6 +147,32 @@ TEST_F(RenamingTest, ExtendsPathsThatDoNotEndInTheExtension)
     WriteBytes(folder() / L"a.xml.old.xml", "<a/>");
 
     EXPECT_EQ(Renaming((folder() / L"a.xml.old").c_str(), (folder() / L"b.xml.old").c_str()).Run(), PGSP_OK);
+
+    EXPECT_THAT(FileNames(folder().path()), testing::ElementsAre(L"b.xml.old.xml"));
+}
+
+TEST_F(ReplacingPathsTest, OfAPathThatWasRefusedDoesNothing)
+{
+    const auto replace = [](const wchar_t* from, const wchar_t* to) { return Replacing(from, to).Run(); };
+    WriteBytes(m_sourceFile, "new");
+    WriteBytes(m_destinationFile, "old");
+
+    EXPECT_EQ(replace(nullptr, m_destination.c_str()), PGSP_ERR_INVALID_PARAMETERS);
+    EXPECT_EQ(replace(L"", m_destination.c_str()), PGSP_ERR_INVALID_PARAMETERS);
+    EXPECT_EQ(replace(m_source.c_str(), nullptr), PGSP_ERR_INVALID_PARAMETERS);
+    EXPECT_EQ(replace(m_tooLong.c_str(), m_destination.c_str()), PGSP_ERR_BUFFER_TOO_SHORT);
+    EXPECT_EQ(replace(m_source.c_str(), m_tooLong.c_str()), PGSP_ERR_BUFFER_TOO_SHORT);
+
+    EXPECT_EQ(ReadBytes(m_sourceFile), "new");
+    EXPECT_EQ(ReadBytes(m_destinationFile), "old");
+}
+
+TEST_F(ReplacingPathsTest, ExtendsPathsThatDoNotEndInTheExtension)
+{
+    WriteBytes(folder() / L"a.xml.old.xml", "new");
+    WriteBytes(folder() / L"b.xml.old.xml", "old");
+
+    EXPECT_EQ(Replacing((folder() / L"a.xml.old").c_str(), (folder() / L"b.xml.old").c_str()).Run(), PGSP_OK);
 
     EXPECT_THAT(FileNames(folder().path()), testing::ElementsAre(L"b.xml.old.xml"));
 }
