@@ -1,4 +1,5 @@
-// Files that end where an engine can't be asked what it stands on: they come to an end, and the process doesn't.
+// Files that end where an engine can't be asked what it stands on: they come to an end, and the process
+// doesn't.
 
 #include "xml/PullScene.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// One method of the pull engine, for all engines of the process, that does nothing but answer a code for as long
-// as the object lives. What the engine calls itself by its own names is its affair.
+// One method of the pull engine, for all engines of the process, that does nothing but answer a code for as
+// long as the object lives. What the engine calls itself by its own names is its affair.
 
 #include "support/ImportHook.h"
 

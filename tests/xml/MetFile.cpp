@@ -38,8 +38,8 @@ public:
         static_cast<void>(m_engine->SetInput(stream.Get()));
     }
 
-    // False at the end of the file and at an error; and where a node comes twice, which is how one engine tells
-    // that a file was cut off.
+    // False at the end of the file and at an error; and where a node comes twice, which is how one engine
+    // tells that a file was cut off.
     [[nodiscard]] bool Read(XmlNodeType& type)
     {
         m_stopped = m_engine->Read(&type) != S_OK || HasEndedMoreThanBegun(type) || !HasMoved(type);

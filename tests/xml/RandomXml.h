@@ -1,7 +1,7 @@
 #pragma once
 
-// Documents that chance makes, of everything that may stand in one, in the encodings that stores have; and damage
-// to them. The same number makes the same document and does the same damage every time.
+// Documents that chance makes, of everything that may stand in one, in the encodings that stores have; and
+// damage to them. The same number makes the same document and does the same damage every time.
 
 #include <cstddef>
 #include <cstdint>
@@ -17,7 +17,8 @@ struct RandomDocument
     std::size_t prolog = 0;
 };
 
-// Well-formed but for its prefixes, some of which nobody has declared, and now and then an attribute too many.
+// Well-formed but for its prefixes, some of which nobody has declared, and now and then an attribute too
+// many.
 [[nodiscard]] RandomDocument MakeDocument(std::uint32_t number);
 
 // Cut off, or with bytes turned, doubled, lost or zero, behind the prolog.
