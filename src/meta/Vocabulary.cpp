@@ -14,7 +14,7 @@ namespace
 constexpr std::size_t ComparedCharacters = 4096;
 
 // By number, 0 first.
-constexpr std::array<const wchar_t*, 52> ElementWords{
+constexpr std::array<std::wstring_view, 52> ElementWords{
     L"NotSet",
     L"Assembly",
     L"BasicParams",
@@ -69,7 +69,7 @@ constexpr std::array<const wchar_t*, 52> ElementWords{
     L"ValueCollection",
 };
 
-constexpr std::array<const wchar_t*, 10> AttributeWords{
+constexpr std::array<std::wstring_view, 10> AttributeWords{
     L"",     L"Alias", L"CP_TYPE",    L"DeviceId", L"Extension", L"MajorVersion", L"MinorVersion",
     L"Name", L"Param", L"SubdevName",
 };
@@ -78,7 +78,7 @@ static_assert(ElementWords.size() == static_cast<std::size_t>(EpaBlElementTag::V
 static_assert(AttributeWords.size() == static_cast<std::size_t>(EpaBlAttributeTag::SubdevName) + 1);
 
 // The row of a word, the one without a word left out; 0 when there is none.
-std::int32_t NumberOf(std::wstring_view word, std::span<const wchar_t* const> words) noexcept
+std::int32_t NumberOf(std::wstring_view word, std::span<const std::wstring_view> words) noexcept
 {
     for (std::size_t number = 1; number < words.size(); ++number)
     {
@@ -110,13 +110,13 @@ EpaBlAttributeTag AttributeTagFromName(std::wstring_view word) noexcept
 const wchar_t* ElementTagName(EpaBlElementTag tag) noexcept
 {
     const auto number = static_cast<std::size_t>(tag);
-    return ElementWords[number < ElementWords.size() ? number : 0];
+    return ElementWords[number < ElementWords.size() ? number : 0].data();
 }
 
 const wchar_t* AttributeTagName(EpaBlAttributeTag tag) noexcept
 {
     const auto number = static_cast<std::size_t>(tag);
-    return number < AttributeWords.size() ? AttributeWords[number] : nullptr;
+    return number < AttributeWords.size() ? AttributeWords[number].data() : nullptr;
 }
 
 } // namespace norvepa
