@@ -1,10 +1,7 @@
 #include "support/AtNextPause.h"
 #include "support/FileWriter.h"
 #include "support/OpenFile.h"
-#include "support/StoppedClock.h"
-#include "support/TemporaryFolder.h"
-#include "win/FileCalls.h"
-#include "win/Handle.h"
+#include "win/CopyScene.h"
 #include "win/WholeFile.h"
 
 #include <windows.h>
@@ -20,37 +17,7 @@ namespace
 using testing::ElementsAre;
 using win::CopyToNewFile;
 
-class ACopiedFile : public testing::Test
-{
-protected:
-    ACopiedFile() { WriteBytes(source, "bytes"); }
-    ~ACopiedFile() override
-    {
-        for (const std::wstring& file : {source, copy})
-        {
-            SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
-        }
-    }
-
-    [[nodiscard]] static WIN32_FILE_ATTRIBUTE_DATA Data(const std::wstring& file)
-    {
-        WIN32_FILE_ATTRIBUTE_DATA data{};
-        EXPECT_TRUE(GetFileAttributesExW(file.c_str(), GetFileExInfoStandard, &data));
-        return data;
-    }
-
-    void SetWriteTime(const FILETIME& time) const
-    {
-        const win::Handle handle(CreateFileW(source.c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING,
-                                             FILE_ATTRIBUTE_NORMAL, nullptr));
-        EXPECT_TRUE(SetFileTime(handle.get(), nullptr, nullptr, &time));
-    }
-
-    StoppedClock clock;
-    TemporaryFolder folder;
-    const std::wstring source = folder / L"source.xml";
-    const std::wstring copy = folder / L"copy.xml";
-};
+using ACopiedFile = CopyScene;
 
 TEST_F(ACopiedFile, HoldsTheBytesOfItsSource)
 {
@@ -122,6 +89,7 @@ TEST_F(ACopiedFile, HasASource)
     EXPECT_FALSE(Exists(copy));
 }
 
+// What were left beside its place could not be removed by the next one.
 TEST_F(ACopiedFile, IsNotMadeOfAFolder)
 {
     EXPECT_FALSE(CopyToNewFile(folder.path(), copy));
@@ -138,18 +106,6 @@ TEST_F(ACopiedFile, DoesNotTakeThePlaceOfAnother)
 
     EXPECT_EQ(GetLastError(), DWORD{ERROR_FILE_EXISTS});
     EXPECT_EQ(ReadBytes(copy), "another");
-}
-
-TEST_F(ACopiedFile, DoesNotTakeThePlaceOfAnotherThatIsMadeMeanwhile)
-{
-    FileCalls calls;
-    calls.beforeMove = [&] { WriteBytes(copy, "another"); };
-
-    EXPECT_FALSE(CopyToNewFile(source, copy));
-
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_FILE_EXISTS});
-    EXPECT_EQ(ReadBytes(copy), "another");
-    EXPECT_THAT(FileNames(folder.path()), ElementsAre(L"copy.xml", L"source.xml"));
 }
 
 TEST_F(ACopiedFile, HasAFolder)
@@ -188,43 +144,6 @@ TEST_F(ACopiedFile, IsMadeWhileOthersReadAndWriteItsSource)
     EXPECT_TRUE(CopyToNewFile(source, copy));
 
     EXPECT_EQ(ReadBytes(copy), "bytes");
-}
-
-TEST_F(ACopiedFile, IsNotThereBeforeItIsWholeAndOnTheDisk)
-{
-    FileCalls calls;
-    calls.beforeMove = [&] { EXPECT_FALSE(Exists(copy)); };
-
-    EXPECT_TRUE(CopyToNewFile(source, copy));
-
-    EXPECT_THAT(calls.told, ElementsAre("write 5", "write 0", "flush", "move"));
-}
-
-TEST_F(ACopiedFile, IsNotThereWhenTheDiskTakesAPart)
-{
-    FileCalls calls;
-    calls.roomForNextWrite = 2;
-
-    EXPECT_FALSE(CopyToNewFile(source, copy));
-
-    EXPECT_THAT(FileNames(folder.path()), ElementsAre(L"source.xml"));
-}
-
-BOOL WINAPI ReadNothing(HANDLE /*file*/, void* /*bytes*/, DWORD /*size*/, DWORD* /*read*/,
-                        OVERLAPPED* /*place*/)
-{
-    SetLastError(ERROR_CRC);
-    return FALSE;
-}
-
-TEST_F(ACopiedFile, IsNotThereWhenItsSourceCanNotBeReadToItsEnd)
-{
-    const ImportHook reading("ReadFile", ReadNothing);
-
-    EXPECT_FALSE(CopyToNewFile(source, copy));
-
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_CRC});
-    EXPECT_THAT(FileNames(folder.path()), ElementsAre(L"source.xml"));
 }
 
 } // namespace

@@ -1,9 +1,13 @@
 #include "win/OpenWhenFree.h"
 
+#include "support/AtNextPause.h"
 #include "support/OpenFile.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace norvepa::test
 {
@@ -82,44 +86,54 @@ TEST_F(AStepWhenFree, IsNotTriedAgainForOtherReasons)
     EXPECT_THAT(told, ElementsAre("for 7"));
 }
 
-TEST_F(AStepWhenFree, AnswersWhatTheStepAnswers)
+class AnOpenedFile : public testing::Test
 {
-    const TemporaryFolder folder;
+protected:
+    AnOpenedFile() { WriteBytes(file, "bytes"); }
+
+    TemporaryFolder folder;
     const std::wstring file = folder / L"file.xml";
-    WriteBytes(file, "bytes");
+};
 
-    const win::Handle opened =
-        win::OpenWhenFree<CountingPatience>(file.c_str(), {GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING});
+TEST_F(AnOpenedFile, IsThereForAnyUse)
+{
+    const win::Handle reader = win::Open(file.c_str(), {GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING});
 
-    EXPECT_TRUE(opened);
-    EXPECT_THAT(told, ElementsAre("for " + std::to_string(win::NumberOfFile(file)), "opened"));
+    EXPECT_TRUE(reader);
+    EXPECT_FALSE(win::Open(file.c_str(), {GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING}));
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_SHARING_VIOLATION});
+    EXPECT_FALSE(win::Open(file.c_str(), {GENERIC_READ, FILE_SHARE_READ, CREATE_NEW}));
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_FILE_EXISTS});
 }
 
-TEST_F(AStepWhenFree, WaitsForAFileThatCanNotBeShared)
+TEST_F(AnOpenedFile, IsWaitedForUntilItIsFree)
 {
-    const TemporaryFolder folder;
-    const std::wstring file = folder / L"file.xml";
-    WriteBytes(file, "bytes");
+    std::optional<OpenFile> holder(std::in_place, file);
+    const AtNextPause pause([&] { holder.reset(); });
+
+    EXPECT_TRUE(win::OpenWhenFree(file.c_str(), {GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING}));
+
+    EXPECT_TRUE(pause.hasBeen());
+}
+
+TEST_F(AnOpenedFile, IsNotWaitedForForEver)
+{
     const OpenFile holder(file);
 
-    const win::Handle opened =
-        win::OpenWhenFree<CountingPatience>(file.c_str(), {GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING});
+    EXPECT_FALSE(win::OpenWhenFree(file.c_str(), {GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING}));
 
     EXPECT_EQ(GetLastError(), DWORD{ERROR_SHARING_VIOLATION});
-    EXPECT_FALSE(opened);
-    EXPECT_THAT(told,
-                ElementsAre("for " + std::to_string(win::NumberOfFile(file)), "asked", "asked", "asked"));
 }
 
-TEST_F(AStepWhenFree, DoesNotWaitForAFileThatIsNotThere)
+TEST_F(AnOpenedFile, IsNotWaitedForWhereThereIsNone)
 {
-    const TemporaryFolder folder;
+    const std::wstring missing = folder / L"missing.xml";
+    const AtNextPause pause([] {});
 
-    EXPECT_FALSE(win::OpenWhenFree<CountingPatience>((folder / L"missing.xml").c_str(),
-                                                     {GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING}));
+    EXPECT_FALSE(win::OpenWhenFree(missing.c_str(), {GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING}));
 
     EXPECT_EQ(GetLastError(), DWORD{ERROR_FILE_NOT_FOUND});
-    EXPECT_THAT(told, testing::SizeIs(1));
+    EXPECT_FALSE(pause.hasBeen());
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "support/AllAtOnce.h"
 #include "support/AtNextPause.h"
+#include "support/FileWriter.h"
 #include "support/ImportHook.h"
 #include "support/OpenFile.h"
 #include "support/StoppedClock.h"
@@ -123,6 +124,25 @@ TEST_F(FileInUse, IsNotRemovedUnderItsReader)
     EXPECT_TRUE(Exists(file));
 }
 
+TEST_F(FileInUse, TellsWhetherSomebodyWritesIt)
+{
+    WriteBytes(file, "text");
+    const OpenFile anotherReader(file, FILE_SHARE_READ | FILE_SHARE_WRITE);
+    EXPECT_FALSE(win::FileToRead(file).isWrittenTo());
+
+    const FileWriter writer(file);
+
+    EXPECT_TRUE(win::FileToRead(file).isWrittenTo());
+}
+
+TEST_F(FileInUse, HasNoNewWriterWhileItIsRead)
+{
+    WriteBytes(file, "text");
+    const win::FileToRead reader(file);
+
+    EXPECT_THROW(FileWriter{file}, std::runtime_error);
+}
+
 TEST_F(FileInUse, IsNotWaitedForWhenItIsNotThere)
 {
     const AtNextPause pause([] {});
@@ -156,6 +176,23 @@ TEST_F(FileInUse, IsWrittenAlsoWhenAnotherIsFasterToMakeIt)
 
     EXPECT_EQ(ReadBytes(file), "ours");
     EXPECT_THAT(FileNames(folder.path()), ElementsAre(L"file.xml"));
+}
+
+// One that is there whenever it is made, and gone when it is opened.
+DWORD WINAPI LookAtTheWrongMoment(const wchar_t* /*path*/)
+{
+    return FILE_ATTRIBUTE_NORMAL;
+}
+
+TEST_F(FileInUse, IsGivenUpWhenOthersKeepTakingItAway)
+{
+    {
+        const ImportHook look("GetFileAttributesW", LookAtTheWrongMoment);
+
+        EXPECT_FALSE(WriteWholeFile(file, "ours", Blank));
+    }
+
+    EXPECT_THAT(FileNames(folder.path()), testing::IsEmpty());
 }
 
 TEST_F(FileInUse, IsWholeWhoeverOfManyMakesIt)

@@ -1,5 +1,5 @@
-// A second process that is in the midst of making a file: each line names one, of which it has written the half
-// and keeps nothing. "at once|" in front of the path makes it in its place.
+// A second process that is in the midst of making a file: each line names one, of which it has written the
+// half and keeps nothing. "at once|" in front of the path makes it in its place.
 
 #include "support/TemporaryFolder.h"
 #include "win/NewFile.h"
