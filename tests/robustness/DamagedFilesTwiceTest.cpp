@@ -6,6 +6,8 @@
 #include "support/FileAge.h"
 #include "xml/ImageCache.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <vector>
 
 namespace norvepa::test
@@ -14,12 +16,12 @@ namespace
 {
 
 // All files damaged at once, and old enough for the library to keep what it reads of them.
-class DamagedFilesTwice : public SmallStore, public testing::WithParamInterface<std::uint32_t>
+class DamagedFilesTwice : public SmallStore
 {
 protected:
     DamagedFilesTwice()
     {
-        std::uint32_t number = GetParam() * 1'000;
+        std::uint32_t number = 1'000;
         for (const auto& [name, bytes] : Beginning())
         {
             WriteBytes(PathOf(name), Damaged(bytes, number++));
@@ -28,6 +30,7 @@ protected:
         AwaitAge(PathOf(L"last"));
         DropWhatIsKept();
     }
+    ~DamagedFilesTwice() override { DropWhatIsKept(); }
 
     [[nodiscard]] static std::vector<Outcome> AskAll()
     {
@@ -48,7 +51,7 @@ protected:
     }
 };
 
-TEST_P(DamagedFilesTwice, AreTakenForTheSame)
+TEST_F(DamagedFilesTwice, AreTakenForTheSame)
 {
     DropImages();
     const std::vector<Outcome> cold = AskAll();
@@ -60,12 +63,14 @@ TEST_P(DamagedFilesTwice, AreTakenForTheSame)
     DropImages();
     const std::vector<Outcome> coldAgain = AskAll();
 
+    const auto answered = std::count_if(cold.begin(), cold.end(),
+                                        [](const Outcome& outcome) { return outcome.result == PGSP_OK; });
+    EXPECT_GE(answered, 5);
+    EXPECT_LE(answered, static_cast<std::ptrdiff_t>(cold.size()) - 5);
     ExpectSame(warm, cold);
     ExpectSame(byTheirImages, cold);
     ExpectSame(coldAgain, cold);
 }
-
-INSTANTIATE_TEST_SUITE_P(Of, DamagedFilesTwice, testing::Range(0u, 2u));
 
 } // namespace
 } // namespace norvepa::test

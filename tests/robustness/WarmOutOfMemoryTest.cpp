@@ -29,7 +29,8 @@ HRESULT WINAPI MakeEngine(const IID& interfaceId, void** engine, IMalloc* memory
     return original(interfaceId, engine, memory);
 }
 
-// A store whose files are old. One wait serves all questions: reads leave it as it is.
+// A store whose files are old, and all of whose images are kept: reads leave it so. Both take a wait, so one test
+// asks all questions.
 class WarmOutOfMemory : public SmallStore
 {
 protected:
@@ -37,19 +38,30 @@ protected:
     {
         WriteBytes(PathOf(L"last"), "");
         AwaitAge(PathOf(L"last"));
+        DropWhatIsKept(); // of another test's store
         DropImages();
+        EXPECT_GT(EnginesForAllReads(), 0U);
+        EXPECT_EQ(EnginesForAllReads(), 0U);
+    }
+
+    static std::size_t EnginesForAllReads()
+    {
+        engines = 0;
+        const ImportHook hook("CreateXmlReader", &MakeEngine);
         for (const Question& question : Reads())
         {
             EXPECT_EQ(Ask(question).result, PGSP_OK) << question.name;
         }
+        return engines;
     }
 
-    static void ExpectTheTruthInAShortage(const Question& question, Shortage shortage)
+    static void ExpectTheTruthInAShortage(const Question& question, Shortage shortage,
+                                          const std::function<void()>& prepare)
     {
+        SCOPED_TRACE(question.name);
         const Outcome normal = Ask(question);
         const Outcome outOfMemory{OutOfMemoryCode, question.afterAFailure};
-        // Their images are all that is kept: everything else has to be made anew.
-        AskWithEachAllocationFailing(question, shortage, DropWhatIsKept, [&](const Outcome& outcome) {
+        AskWithEachAllocationFailing(question, shortage, prepare, [&](const Outcome& outcome) {
             EXPECT_THAT(outcome, AnyOf(Eq(outOfMemory), Eq(normal)));
             EXPECT_EQ(Ask(question), normal); // and nothing false has been kept
         });
@@ -60,29 +72,15 @@ TEST_F(WarmOutOfMemory, IsToldOfEachReadOrDoesNotMatter)
 {
     for (const Question& question : Reads())
     {
-        SCOPED_TRACE(question.name);
-        ExpectTheTruthInAShortage(question, Shortage::Passing);
-        ExpectTheTruthInAShortage(question, Shortage::Lasting);
+        ExpectTheTruthInAShortage(question, Shortage::Passing, [] {});
+        ExpectTheTruthInAShortage(question, Shortage::Lasting, [] {});
     }
-}
-
-// Without this the test above might be one of files that are read anew.
-TEST_F(WarmOutOfMemory, IsMetWithImagesThatAreKept)
-{
-    engines = 0;
-    const ImportHook hook("CreateXmlReader", &MakeEngine);
-    for (const Question& question : Reads())
+    // The images alone are kept, and all that else is made of files has to be made of them.
+    for (const Question& question : StoreReads())
     {
-        EXPECT_EQ(Ask(question).result, PGSP_OK) << question.name;
+        ExpectTheTruthInAShortage(question, Shortage::Passing, DropWhatIsKept);
     }
-    EXPECT_EQ(engines, 0U);
-
-    DropImages();
-    for (const Question& question : Reads())
-    {
-        EXPECT_EQ(Ask(question).result, PGSP_OK) << question.name;
-    }
-    EXPECT_GT(engines, 0U);
+    EXPECT_EQ(EnginesForAllReads(), 0U);
 }
 
 } // namespace

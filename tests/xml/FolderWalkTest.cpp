@@ -5,7 +5,6 @@
 #include "xml/CallScene.h"
 
 #include <filesystem>
-#include <optional>
 
 namespace norvepa::test
 {
@@ -184,6 +183,8 @@ TEST_F(FolderWalkTest, EndsWithItsObject)
     }
 
     EXPECT_TRUE(IsRead(File(L"b.xml"), "<old-b/>"));
+    const FolderWalk next(oldFolder);
+    EXPECT_FALSE(IsRead(File(L"c.xml"), "<old-c/>"));
 }
 
 TEST_F(FolderWalkTest, IsNoneOutsideOfACall)
@@ -211,19 +212,19 @@ TEST_F(FolderWalkTest, GoesOnBehindAnotherWithinIt)
     EXPECT_FALSE(IsRead(File(L"b.xml"), "<old-b/>"));
 }
 
-TEST_F(FolderWalkTest, MayFollowAnother)
+TEST_F(FolderWalkTest, ByARelativePathVouchesForNothing)
 {
-    const std::wstring other = TakeOldFolder();
-    ASSERT_EQ(Met(other + L"\\a.xml"), "<old-a/>");
-    const CallScope call;
-    std::optional<FolderWalk> walk(std::in_place, oldFolder);
-    ASSERT_EQ(Met(File(L"a.xml")), "<old-a/>");
-    walk.reset();
-    const FileLooks looks;
+    const fs::path before = fs::current_path();
+    fs::current_path(oldFolder);
+    {
+        const CallScope call;
+        const FolderWalk walk(L".");
+        const FileLooks looks;
 
-    const FolderWalk second(other);
-
-    EXPECT_FALSE(IsRead(other + L"\\a.xml", "<old-a/>"));
+        EXPECT_TRUE(IsRead(L".\\a.xml", "<old-a/>"));
+        EXPECT_TRUE(IsRead(File(L"b.xml"), "<old-b/>"));
+    }
+    fs::current_path(before);
 }
 
 TEST_F(FolderWalkTest, OverAFolderThatIsNotThereTellsSo)
