@@ -2,6 +2,7 @@
 #include "support/FileWriter.h"
 #include "support/OpenFile.h"
 #include "win/CopyScene.h"
+#include "win/MadeFiles.h"
 #include "win/WholeFile.h"
 
 #include <windows.h>
@@ -79,6 +80,23 @@ TEST_F(ACopiedFile, MayOnlyBeReadWhenItsSourceMay)
     EXPECT_TRUE(Data(copy).dwFileAttributes & FILE_ATTRIBUTE_READONLY);
     EXPECT_EQ(ReadBytes(copy), "bytes");
     EXPECT_THAT(FileNames(folder.path()), ElementsAre(L"copy.xml", L"source.xml"));
+}
+
+// There is no room beside it then.
+TEST_F(ACopiedFile, IsLikeItsSourceAlsoUnderTheLongestPath)
+{
+    const std::wstring longest = PathOfLength(folder, 259);
+    SetWriteTime({0x12345680, 0x01C00000});
+    SetFileAttributesW(source.c_str(), FILE_ATTRIBUTE_READONLY);
+
+    EXPECT_TRUE(CopyToNewFile(source, longest));
+
+    const FILETIME expected = Data(source).ftLastWriteTime;
+    const FILETIME written = Data(longest).ftLastWriteTime;
+    EXPECT_EQ(CompareFileTime(&written, &expected), 0);
+    EXPECT_TRUE(Data(longest).dwFileAttributes & FILE_ATTRIBUTE_READONLY);
+    EXPECT_EQ(ReadBytes(longest), "bytes");
+    SetFileAttributesW(longest.c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
 TEST_F(ACopiedFile, HasASource)

@@ -1,10 +1,14 @@
 #include "support/AllAtOnce.h"
 #include "support/AtNextPause.h"
 #include "support/Eventually.h"
+#include "support/ImportHook.h"
 #include "support/Peer.h"
 #include "support/RedirectedRegistry.h"
+#include "support/SystemFunction.h"
 #include "support/TemporaryFolder.h"
 #include "win/NewFile.h"
+
+#include <windows.h>
 
 #include <atomic>
 #include <gmock/gmock.h>
@@ -82,6 +86,32 @@ TEST_F(MakersOfAFile, TakeOverFromTheOneWhoGivesUp)
 
     EXPECT_EQ(ReadBytes(file), "second");
     EXPECT_THAT(FileNames(folder.path()), ElementsAre(L"file.xml"));
+}
+
+// As some systems tell of a file that is to go when its last handle does.
+int refusalsLeft = 0;
+
+HANDLE WINAPI RefuseAtFirst(const wchar_t* path, DWORD access, DWORD sharing, SECURITY_ATTRIBUTES* security,
+                            DWORD disposition, DWORD flags, HANDLE model)
+{
+    static auto* const open = SystemFunction<decltype(CreateFileW)>("CreateFileW");
+    if (refusalsLeft-- > 0)
+    {
+        SetLastError(ERROR_ACCESS_DENIED);
+        return INVALID_HANDLE_VALUE;
+    }
+    return open(path, access, sharing, security, disposition, flags, model);
+}
+
+TEST_F(MakersOfAFile, WaitAlsoForOneWhoseFileCanNotBeHad)
+{
+    refusalsLeft = 2;
+    const ImportHook open("CreateFileW", RefuseAtFirst);
+
+    NewFile made = NewFile::CreateBeside(file);
+
+    EXPECT_LT(refusalsLeft, 0);
+    EXPECT_TRUE(made && made.Keep());
 }
 
 TEST_F(MakersOfAFile, DoNotWaitForOneWhoTakesLong)

@@ -1,11 +1,7 @@
-#include "support/ImportHook.h"
 #include "support/StoppedClock.h"
 #include "win/Patience.h"
 #include "win/Waits.h"
 
-#include <windows.h>
-
-#include <chrono>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -18,17 +14,8 @@ using win::NumberOfFile;
 using win::Patience;
 using win::ReadersPatience;
 
-// All pauses are equally long, so that a wait is as many tries as are the fewest, and these take its time.
-void WINAPI PauseForAQuarter(DWORD /*milliseconds*/)
-{
-    const auto begin = std::chrono::steady_clock::now();
-    while (Since(begin) < std::chrono::microseconds(250))
-    {
-    }
-}
-
-constexpr int AWhole = 100;
-constexpr int AShort = 5;
+constexpr int AWhole = EqualPauses::Whole;
+constexpr int AShort = EqualPauses::Short;
 
 // What is remembered of waits in vain.
 class AReadersWait : public testing::Test
@@ -57,7 +44,7 @@ protected:
     const StoppedClock clock;
 
 private:
-    ImportHook m_pause{"Sleep", PauseForAQuarter};
+    EqualPauses m_pauses;
 };
 
 TEST_F(AReadersWait, IsWholeForAFileThatNobodyHasWaitedFor)
@@ -151,7 +138,8 @@ TEST_F(AReadersWait, IsWholeAgainASecondBehindTheFirstOfFive)
     EXPECT_EQ(ReadInVain(L"e"), AWhole);
 }
 
-// Short waits aren't counted: a walk over many held files goes on in that way for the rest of the second alone.
+// Short waits aren't counted: a walk over many held files goes on in that way for the rest of the second
+// alone.
 TEST_F(AReadersWait, IsWholeAgainHoweverManyHaveBeenShort)
 {
     ReadInVainOften(5);
