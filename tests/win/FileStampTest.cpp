@@ -35,11 +35,11 @@ protected:
     const std::wstring file = folder / L"file.xml";
 };
 
-std::wstring ThisProgram()
+std::wstring FileOfTheSystem()
 {
-    std::wstring path(MAX_PATH, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
-    return path;
+    std::wstring folder(MAX_PATH, L'\0');
+    folder.resize(GetSystemDirectoryW(folder.data(), MAX_PATH));
+    return folder + L"\\kernel32.dll";
 }
 
 void CopyWithTimes(const std::wstring& from, const std::wstring& to)
@@ -98,7 +98,7 @@ TEST_F(FileStamps, AreNotCertainForAFileThatWasJustWritten)
 
 TEST_F(FileStamps, AreCertainForAFileThatWasWrittenLongAgo)
 {
-    EXPECT_TRUE(FileStamp::Of(ThisProgram())->IsCertain());
+    EXPECT_TRUE(FileStamp::Of(FileOfTheSystem())->IsCertain());
 }
 
 TEST_F(FileStamps, AreNoneForAFileThatIsNotThere)

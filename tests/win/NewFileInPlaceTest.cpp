@@ -106,7 +106,9 @@ TEST_F(AFileMadeInPlace, LeavesAFileThatIsInUse)
 
 TEST_F(AFileMadeInPlace, IsNotMadeWithoutItsFolder)
 {
-    EXPECT_FALSE(NewFile::CreateOrEmpty(folder / L"gone\\file.xml"));
+    const std::wstring nowhere = folder / L"gone\\file.xml";
+
+    EXPECT_FALSE(NewFile::CreateOrEmpty(nowhere));
 
     EXPECT_THAT(FileNames(folder.path()), IsEmpty());
 }
