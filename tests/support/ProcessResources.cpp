@@ -125,11 +125,6 @@ std::size_t CountFree(DWORD none, const Take& take, const GiveBack& giveBack)
     return count;
 }
 
-std::size_t CountFreeTlsIndices()
-{
-    return CountFree(TLS_OUT_OF_INDEXES, TlsAlloc, TlsFree);
-}
-
 std::size_t CountFreeFlsIndices()
 {
     return CountFree(
@@ -155,6 +150,11 @@ std::size_t CountThreads()
     }
     CloseHandle(snapshot);
     return threads;
+}
+
+std::size_t CountFreeTlsIndices()
+{
+    return CountFree(TLS_OUT_OF_INDEXES, TlsAlloc, TlsFree);
 }
 
 ProcessResources CountProcessResources()

@@ -41,4 +41,7 @@ struct ProcessResources
 // Asks nothing but their number: a thread that has ended for its owner takes a moment more to go.
 [[nodiscard]] std::size_t CountThreads();
 
+// Takes all of them for a moment.
+[[nodiscard]] std::size_t CountFreeTlsIndices();
+
 } // namespace norvepa::test

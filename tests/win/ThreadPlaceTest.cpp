@@ -69,17 +69,17 @@ TEST_F(AThreadPlace, IsNotAnothers)
 
 TEST_F(AThreadPlace, TakesOneIndexWhenItIsFirstSetAndGivesItBack)
 {
-    const std::size_t before = CountProcessResources().freeTlsIndices;
+    const std::size_t before = CountFreeTlsIndices();
     static_cast<void>(place.Get());
-    EXPECT_EQ(CountProcessResources().freeTlsIndices, before);
+    EXPECT_EQ(CountFreeTlsIndices(), before);
 
     place.Set(&thing);
     place.Set(&other);
-    EXPECT_EQ(CountProcessResources().freeTlsIndices, before - 1);
+    EXPECT_EQ(CountFreeTlsIndices(), before - 1);
 
     place.LetGo();
     place.LetGo();
-    EXPECT_EQ(CountProcessResources().freeTlsIndices, before);
+    EXPECT_EQ(CountFreeTlsIndices(), before);
 }
 
 TEST_F(AThreadPlace, IsAsAtFirstOnceItWasLetGo)
@@ -95,9 +95,9 @@ TEST_F(AThreadPlace, IsAsAtFirstOnceItWasLetGo)
 
 TEST_F(AThreadPlace, IsOneWhateverThreadsBeginWithItAtOnce)
 {
+    const std::size_t before = CountFreeTlsIndices();
     for (int round = 0; round < 20; ++round)
     {
-        const std::size_t before = CountProcessResources().freeTlsIndices;
         std::atomic<int> wrong = 0;
 
         AllAtOnce(4, [&](int /*thread*/) {
@@ -108,7 +108,7 @@ TEST_F(AThreadPlace, IsOneWhateverThreadsBeginWithItAtOnce)
         });
 
         EXPECT_EQ(wrong, 0);
-        EXPECT_EQ(CountProcessResources().freeTlsIndices, before - 1);
+        EXPECT_EQ(CountFreeTlsIndices(), before - 1);
         place.LetGo();
     }
 }
@@ -155,7 +155,7 @@ DWORD WINAPI HaveAnIndexLate()
 
 TEST_F(AThreadPlace, TakesTheIndexOfTheThreadThatWasFaster)
 {
-    const std::size_t before = CountProcessResources().freeTlsIndices;
+    const std::size_t before = CountFreeTlsIndices();
     shared = &place;
     {
         const ImportHook system("TlsAlloc", HaveAnIndexLate);
@@ -163,7 +163,7 @@ TEST_F(AThreadPlace, TakesTheIndexOfTheThreadThatWasFaster)
     }
 
     EXPECT_EQ(place.Get(), &thing);
-    EXPECT_EQ(CountProcessResources().freeTlsIndices, before - 1);
+    EXPECT_EQ(CountFreeTlsIndices(), before - 1);
 }
 
 } // namespace
