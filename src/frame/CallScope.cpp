@@ -14,20 +14,12 @@ constinit win::ThreadPlace<CallScope> current;
 
 } // namespace
 
-namespace
-{
-
-// A scope around another one lies above it on the stack. One that doesn't has been left by a host that caught
+// A scope around another one lies above the stack's end. One that doesn't has been left by a host that caught
 // a fault beyond it, and is no more.
-bool IsAround(const CallScope* outer, const CallScope* inner) noexcept
+CallScope::CallScope() noexcept
 {
-    return std::less<>()(inner, outer);
-}
-
-} // namespace
-
-CallScope::CallScope() noexcept : m_isOutermost(!IsAround(current.Get(), this))
-{
+    const char stacksEnd{};
+    m_isOutermost = !std::less<const void*>()(&stacksEnd, current.Get());
     if (m_isOutermost)
     {
         current.Set(this);

@@ -46,7 +46,7 @@ public:
     std::optional<std::wstring> programFolder;
 
 private:
-    bool m_isOutermost;
+    bool m_isOutermost = false;
 };
 
 // When the module goes.

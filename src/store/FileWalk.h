@@ -3,8 +3,8 @@
 // A walk over the names of a folder's files, as NorvXMLEnumFile tells them one by one.
 //
 // Callers may rely on: the folder is looked at once, at the first step, and all steps are those of that
-// moment, unless the folders can't be watched: then each step looks anew. Callers must not: keep a walk beyond
-// the call of an export.
+// moment, unless the folders can't be watched: then each step looks anew. Callers must not: keep a walk
+// beyond the call of an export.
 
 #include "frame/Result.h"
 #include "notify/directoryCache.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-// The store's operations on files and on the values in them. Each looks at its file, does its work and forgets
-// it: the store has no state of its own, and answers what the file says now. The questions to boards,
+// The store's operations on files and on the values in them. Each looks at its file, does its work and
+// forgets it: the store has no state of its own, and answers what the file says now. The questions to boards,
 // protocols and templates are on the floor above, in catalogue/norvxmlCatalogue.h.
 //
 // Conventions: `filePath` is a full path without extension whose last component is a plain name; the

@@ -23,9 +23,11 @@ public:
     // may leave beside it goes with the next file of its name. Where something is already, the object is
     // empty. An empty object leaves the reason in the system's last error.
     [[nodiscard]] static NewFile CreateBeside(const std::wstring& path) noexcept;
+    static NewFile CreateBeside(std::wstring&& path) = delete;
 
     // In its place at once, of which nobody else opens it until Keep(); what was there is empty then.
     [[nodiscard]] static NewFile CreateOrEmpty(const std::wstring& path) noexcept;
+    static NewFile CreateOrEmpty(std::wstring&& path) = delete;
 
     explicit operator bool() const noexcept { return static_cast<bool>(m_handle); }
 

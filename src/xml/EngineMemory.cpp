@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 #include <memory>
 
 namespace norvepa
@@ -83,6 +84,10 @@ void* EngineMemory::AllocLarge(std::size_t bytes) noexcept
 
 EngineMemory::Header* EngineMemory::TakeFromHeap(std::size_t bytes) noexcept
 {
+    if (bytes > std::numeric_limits<std::size_t>::max() / 2) // which no sum goes beyond
+    {
+        return nullptr;
+    }
     const std::size_t room = RoundedUp(bytes, alignof(Header));
     void* const memory = HeapAlloc(GetProcessHeap(), 0, sizeof(Header) + room);
     if (memory == nullptr)

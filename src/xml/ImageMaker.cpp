@@ -3,9 +3,11 @@
 #include "xml/ByteStream.h"
 #include "xml/Engine.h"
 #include "xml/EngineMemory.h"
+#include "xml/HarmlessBytes.h"
 
 #include <wrl/client.h>
 
+#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -30,8 +32,9 @@ void Fit(Container& container)
 
 std::shared_ptr<const XmlImage> ImageMaker::Make(std::string_view bytes, HRESULT& status)
 {
-    ByteStream stream(bytes);
-    EngineMemory memory(bytes.size());
+    const std::string harmless = HarmlessBytes(bytes);
+    ByteStream stream(harmless.empty() ? bytes : std::string_view(harmless));
+    EngineMemory memory(std::max(bytes.size(), harmless.size()));
     Microsoft::WRL::ComPtr<IXmlReader> engine;
     status = CreateXmlReader(__uuidof(IXmlReader), reinterpret_cast<void**>(engine.GetAddressOf()), &memory);
     if (FAILED(status))
@@ -58,7 +61,7 @@ void ImageMaker::ReadAll()
 {
     m_image->m_firstState = State();
     XmlNodeType type = XmlNodeType_None;
-    while (Checked(m_engine.Read(&type)) == S_OK && HasMoved(type))
+    while (Checked(m_engine.Read(&type)) == S_OK && IsWithinRoot(type) && HasMoved(type))
     {
         AddNode(type);
     }
@@ -71,6 +74,17 @@ void ImageMaker::ReadAll()
     Fit(m_image->m_attributes);
     Fit(m_image->m_names);
     Fit(m_image->m_text);
+}
+
+// An engine that delivers the end of the root twice has come upon the end of a file that was cut off, and
+// can't be asked for the place.
+bool ImageMaker::IsWithinRoot(XmlNodeType type) noexcept
+{
+    if (type == XmlNodeType_Element && !m_engine.IsEmptyElement())
+    {
+        ++m_depth;
+    }
+    return type != XmlNodeType_EndElement || m_depth-- > 0;
 }
 
 // Every node of a document has a place of its own. An engine that delivers one twice has come upon the

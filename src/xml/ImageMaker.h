@@ -26,6 +26,7 @@ private:
     explicit ImageMaker(IXmlReader& engine);
 
     void ReadAll();
+    [[nodiscard]] bool IsWithinRoot(XmlNodeType type) noexcept;
     [[nodiscard]] bool HasMoved(XmlNodeType type) noexcept;
     void AddNode(XmlNodeType type);
     [[nodiscard]] XmlImage::Span AddAttributes();
@@ -50,6 +51,7 @@ private:
 
     IXmlReader& m_engine;
     Place m_place;
+    std::size_t m_depth = 0; // of elements that are open
     std::unordered_map<std::wstring, std::uint32_t, Hash, std::equal_to<>> m_numbers; // of names
     std::shared_ptr<XmlImage> m_image = std::make_shared<XmlImage>();
 };

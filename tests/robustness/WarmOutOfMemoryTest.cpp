@@ -29,8 +29,8 @@ HRESULT WINAPI MakeEngine(const IID& interfaceId, void** engine, IMalloc* memory
     return original(interfaceId, engine, memory);
 }
 
-// A store whose files are old, and all of whose images are kept: reads leave it so. Both take a wait, so one test
-// asks all questions.
+// A store whose files are old, and all of whose images are kept: reads leave it so. Both take a wait, so one
+// test asks all questions.
 class WarmOutOfMemory : public SmallStore
 {
 protected:
