@@ -17,7 +17,7 @@ namespace
 
 constexpr std::size_t Shelves = 16;
 constexpr std::size_t ImagesOnAShelf = 256;
-constexpr std::size_t BytesOnAShelf = 22'000'000 / Shelves;
+constexpr std::size_t BytesOnAShelf = 20'000'000 / Shelves;
 
 struct Kept
 {

@@ -10,7 +10,7 @@ namespace
 {
 
 constexpr std::size_t MostImages = 4'096;
-constexpr std::size_t MostBytes = 22'000'000;
+constexpr std::size_t MostBytes = 20'000'000;
 constexpr std::size_t BytesOfAPart = MostBytes / 16;
 
 class ImageCacheBounds : public ImageCacheScene
