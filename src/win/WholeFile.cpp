@@ -194,6 +194,10 @@ bool WriteWholeFile(const std::wstring& file, std::string_view bytes, std::strin
 
 bool CopyToNewFile(const std::wstring& source, const std::wstring& destination) noexcept
 {
+    if (GetFileAttributesW(source.c_str()) == INVALID_FILE_ATTRIBUTES)
+    {
+        return false; // ahead of anything that a watch of the folder would tell of
+    }
     FILE_BASIC_INFO information;
     NewFile made = NewFile::CreateBeside(destination);
     return made && CopyInto(made, source, information) && made.KeepAs(information);

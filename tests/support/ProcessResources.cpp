@@ -133,6 +133,13 @@ std::size_t CountFreeFlsIndices()
 
 } // namespace
 
+ProcessResources CountHeapBlocks()
+{
+    ProcessResources resources;
+    CountHeaps(resources);
+    return resources;
+}
+
 std::size_t CountThreads()
 {
     const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0);

@@ -87,7 +87,7 @@ TEST(EngineMemoryBuffers, OfAnEmptyInputHaveRoomForOneReading)
 class EngineMemoryOnTheHeap : public testing::Test
 {
 protected:
-    static std::size_t Blocks() { return CountProcessResources().heapBlocks; }
+    static std::size_t Blocks() { return CountHeapBlocks().heapBlocks; }
 };
 
 TEST_F(EngineMemoryOnTheHeap, TakesNothingUntilItIsAsked)
@@ -100,7 +100,7 @@ TEST_F(EngineMemoryOnTheHeap, TakesNothingUntilItIsAsked)
 
 TEST_F(EngineMemoryOnTheHeap, GivesAllBackAtItsEnd)
 {
-    const ProcessResources before = CountProcessResources();
+    const ProcessResources before = CountHeapBlocks();
     {
         EngineMemory memory(InputBytes);
         for (std::size_t bytes = 0; bytes < 100'000; bytes = bytes * 5 / 4 + 1)
@@ -111,7 +111,7 @@ TEST_F(EngineMemoryOnTheHeap, GivesAllBackAtItsEnd)
         }
     }
 
-    EXPECT_EQ(CountProcessResources(), before);
+    EXPECT_EQ(CountHeapBlocks(), before);
 }
 
 TEST_F(EngineMemoryOnTheHeap, GivesALargeBlockBackAtOnce)
