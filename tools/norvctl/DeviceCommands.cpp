@@ -57,7 +57,7 @@ std::vector<std::string> NamesOfType(const std::string& type)
 
 void List(const Report& report, const Arguments& arguments)
 {
-    std::vector<std::string> lines;
+    Table table({{"DEVICE", 28}, {"PROTOCOL", 10}, {"BOARD", 12}, {"UNIT", 0}});
     Json document = Json::array();
     const auto names =
         arguments.boardId.empty() ? NamesOfType(arguments.type) : NamesOfBoard(arguments.boardId);
@@ -66,10 +66,10 @@ void List(const Report& report, const Arguments& arguments)
         const std::string type = ReadDevice(name, "CP_TYPE").value;
         const std::string board = ReadDevice(name, "DeviceID").value;
         const std::string unit = ReadDevice(name, "Unit").value;
-        lines.push_back(fmt::format("{:<28} {:<10} {:<12} {}", name, type, board, unit));
+        table.Add({name, type, board, unit});
         document.push_back({{"name", name}, {"type", type}, {"deviceId", board}, {"unit", unit}});
     }
-    report.Answer(AsLines(lines), document);
+    report.Answer(table, document);
 }
 
 void Show(const Report& report, const Arguments& arguments)

@@ -114,15 +114,19 @@ std::vector<NameAndValue> EnumeratePairs(const std::string& subject, const ReadP
     }
 }
 
-std::string AsLines(const std::vector<NameAndValue>& pairs)
+Table AsTable(const std::vector<NameAndValue>& pairs)
 {
-    std::vector<std::string> lines;
-    lines.reserve(pairs.size());
+    Table table({{"PARAMETER", 28}, {"VALUE", 0}});
     for (const NameAndValue& pair : pairs)
     {
-        lines.push_back(fmt::format("{:<28} {}", pair.name, pair.value));
+        table.Add({pair.name, pair.value});
     }
-    return AsLines(lines);
+    return table;
+}
+
+std::string AsLines(const std::vector<NameAndValue>& pairs)
+{
+    return AsTable(pairs).AsText({});
 }
 
 Json AsObject(const std::vector<NameAndValue>& pairs)

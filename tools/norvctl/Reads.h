@@ -49,7 +49,8 @@ using ReadPair = std::function<int32_t(uint32_t index, wchar_t* name, uint32_t* 
                                        uint32_t* valueLength)>;
 [[nodiscard]] std::vector<NameAndValue> EnumeratePairs(const std::string& subject, const ReadPair& read);
 
-// Lines of two columns, the second aligned; the same as an object.
+// Two columns, of parameters and their values; the same as lines of a pipe, and as an object.
+[[nodiscard]] Table AsTable(const std::vector<NameAndValue>& pairs);
 [[nodiscard]] std::string AsLines(const std::vector<NameAndValue>& pairs);
 [[nodiscard]] Json AsObject(const std::vector<NameAndValue>& pairs);
 

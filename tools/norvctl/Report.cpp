@@ -1,5 +1,7 @@
 #include "Report.h"
 
+#include "Console.h"
+
 #include <iostream>
 
 namespace norvctl
@@ -15,6 +17,16 @@ void Report::Answer(std::string_view text, const Json& document) const
     {
         std::cout << text << '\n';
     }
+}
+
+void Report::Answer(const Table& table, const Json& document) const
+{
+    Answer(table.AsText(Form()), document);
+}
+
+TableForm Report::Form() const
+{
+    return IsOutputConsole() ? TableForm{true, ConsoleWidth()} : TableForm{headings, 0};
 }
 
 } // namespace norvctl

@@ -1,10 +1,10 @@
 // norvctl: the configuration store from the command line. A client of the library's exports.
 
 #include "Commands.h"
+#include "Console.h"
 #include "Report.h"
 #include "Text.h"
 
-#include <windows.h>
 #include <iostream>
 
 #include <CLI/CLI.hpp>
@@ -12,13 +12,14 @@
 
 int main() // NOLINT(bugprone-exception-escape) what CLI11 throws ahead of the parse is a slip of ours
 {
-    SetConsoleOutputCP(CP_UTF8);
+    const norvctl::ConsoleStreams streams;
 
     CLI::App app("norvctl: the configuration store of the industrial communication stack", "norvctl");
     app.require_subcommand(1);
 
     norvctl::Report report;
     app.add_flag("--json", report.json, "answer with one JSON document");
+    app.add_flag("--headings", report.headings, "head the columns of tables also in a pipe or file");
     app.fallthrough();
 
     norvctl::AddDeviceCommands(app, report);
