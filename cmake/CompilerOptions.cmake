@@ -8,7 +8,7 @@ set(CMAKE_C_EXTENSIONS OFF)
 add_library(norv_options INTERFACE)
 target_compile_options(norv_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 # GCC 12 sees overlaps in std::string's own operators where there are none.
-target_compile_options(norv_options INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>)
+target_compile_options(norv_options INTERFACE $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Wno-restrict>)
 target_compile_definitions(norv_options INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX
                            WINVER=0x0601 _WIN32_WINNT=0x0601)
 # No run-time library beside the binaries: they go into other makers' processes.

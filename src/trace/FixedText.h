@@ -9,7 +9,7 @@
 #include <array>
 #include <cstdarg>
 #include <cstddef>
-#include <cstdio>
+#include <cstdio> // has each compiler's word for the formats of its printf
 #include <string_view>
 
 namespace norvepa
@@ -32,7 +32,7 @@ public:
     }
 
     // False when something had to be cut.
-    [[gnu::format(gnu_printf, 2, 3)]] bool Print(const char* format, ...) noexcept
+    [[gnu::format(__MINGW_PRINTF_FORMAT, 2, 3)]] bool Print(const char* format, ...) noexcept
     {
         std::va_list arguments;
         va_start(arguments, format);

@@ -13,6 +13,7 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <cstdio> // has each compiler's word for the formats of its printf
 #include <source_location>
 
 namespace norvepa
@@ -59,7 +60,7 @@ void TraceLock() noexcept;
 void TraceUnlock() noexcept;
 
 // Formats into the one static buffer of 1024 characters; a longer text is cut.
-[[gnu::format(gnu_printf, 1, 2)]] const char* TraceFormat(const char* format, ...) noexcept;
+[[gnu::format(__MINGW_PRINTF_FORMAT, 1, 2)]] const char* TraceFormat(const char* format, ...) noexcept;
 
 // UTF-16 to the machine's ANSI code page, in one of five slots of 600 bytes each: at most five
 // converted strings stand in one statement. A longer string is cut, a null one is empty.
