@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <ostream>
 #include <stdexcept>
+#include <winternl.h>
 
 namespace norvepa::test
 {
@@ -13,63 +14,43 @@ namespace norvepa::test
 namespace
 {
 
-// What NtQuerySystemInformation tells of every handle of the machine.
-struct HandleEntry
+// What NtQueryObject tells of a handle's kind; the system names the kind behind it.
+struct KindOfHandle
 {
-    ULONG processId;
-    BYTE kind;
-    BYTE flags;
-    USHORT handle;
-    void* object;
-    ACCESS_MASK access;
+    UNICODE_STRING name;
+    ULONG counts[12];
+    ULONG invalidAttributes;
+    GENERIC_MAPPING mapping;
+    ULONG validAccess;
+    BOOLEAN isSecured;
+    BOOLEAN isCounted;
+    BYTE number;
+    BYTE reserved;
+    ULONG pool[3];
+    wchar_t nameText[64];
 };
 
-struct HandleTable
-{
-    ULONG count;
-    HandleEntry entries[1]; // and more, behind
-};
+constexpr OBJECT_INFORMATION_CLASS KindAsked = ObjectTypeInformation;
+constexpr ULONG_PTR HandleStep = 4;
+constexpr ULONG_PTR HandlesEnd = 0x10000; // low ones are given out first
 
-constexpr ULONG SystemHandles = 16;
-constexpr SIZE_T RoomForHandles = SIZE_T{4} << 20;
-
-// Pages of the system's own, so that none of the heaps changes.
-class Pages
-{
-public:
-    explicit Pages(SIZE_T bytes)
-        : m_pages(VirtualAlloc(nullptr, bytes, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE))
-    {
-    }
-    Pages(const Pages&) = delete;
-    Pages& operator=(const Pages&) = delete;
-    ~Pages() { VirtualFree(m_pages, 0, MEM_RELEASE); }
-
-    [[nodiscard]] void* get() const { return m_pages; }
-
-private:
-    void* m_pages;
-};
-
+// Asks for each that there could be. The system's table of all handles would tell it at once, but under Wine
+// programs that start at that moment are lost.
 void CountHandles(ProcessResources& resources)
 {
-    using Query = LONG WINAPI(ULONG, void*, ULONG, ULONG*);
+    using Query = LONG WINAPI(HANDLE, OBJECT_INFORMATION_CLASS, void*, ULONG, ULONG*);
     static Query* const query = reinterpret_cast<Query*>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQuerySystemInformation")));
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQueryObject")));
 
-    const Pages pages(RoomForHandles);
-    ULONG used = 0;
-    if (query == nullptr || query(SystemHandles, pages.get(), static_cast<ULONG>(RoomForHandles), &used) != 0)
+    for (ULONG_PTR value = HandleStep; value < HandlesEnd; value += HandleStep)
     {
-        throw std::runtime_error("the handles can't be counted");
-    }
-    const auto* const table = static_cast<const HandleTable*>(pages.get());
-    std::for_each_n(table->entries, table->count, [&](const HandleEntry& entry) {
-        if (entry.processId == GetCurrentProcessId())
+        KindOfHandle kind{};
+        ULONG used = 0;
+        if (query(reinterpret_cast<HANDLE>(value), KindAsked, &kind, sizeof kind, &used) == 0)
         {
-            ++resources.handles.at(entry.kind);
+            ++resources.handles.at(kind.number);
         }
-    });
+    }
 }
 
 void CountBlocks(HANDLE heap, ProcessResources& resources)

@@ -38,9 +38,8 @@ struct ProcessResources
 // Leaves the heaps as they are. Throws when the system doesn't tell.
 [[nodiscard]] ProcessResources CountProcessResources();
 
-// The blocks of all heaps alone, with the other numbers left at 0. The handles of the whole machine, which
-// the one above asks for, cost programs that start at that moment their start under Wine: not beside other
-// programs.
+// The blocks of all heaps alone, with the other numbers left at 0: of a process in which something else is
+// under way, for as long as that allocates nothing.
 [[nodiscard]] ProcessResources CountHeapBlocks();
 
 // Asks nothing but their number: a thread that has ended for its owner takes a moment more to go.
