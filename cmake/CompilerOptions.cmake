@@ -5,41 +5,20 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_C_STANDARD 99)
 set(CMAKE_C_EXTENSIONS OFF)
 
+# Each compiler's own file gives these targets their options. It also says how what isn't to take long is built
+# (NORV_UNOPTIMISED, NORV_LIGHTLY_OPTIMISED), how a program is linked whose main function takes wide characters
+# (NORV_WIDE_MAIN), and how a library is shipped whose symbols lie beside it (norv_symbols_beside(LIBRARY INSIDE),
+# of which INSIDE are the objects).
 add_library(norv_options INTERFACE)
-target_compile_options(norv_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
-# GCC 12 sees overlaps in std::string's own operators where there are none.
-target_compile_options(norv_options INTERFACE $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Wno-restrict>)
 target_compile_definitions(norv_options INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX
                            WINVER=0x0601 _WIN32_WINNT=0x0601)
-# No run-time library beside the binaries: they go into other makers' processes.
-target_link_options(norv_options INTERFACE -static)
-
-# What is built tells nothing of the folder that it was built in.
-target_compile_options(norv_options INTERFACE -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=)
-
-# A target with this property is linked with its symbols.
-if(CMAKE_BUILD_TYPE STREQUAL "Debug")
-  target_compile_definitions(norv_options INTERFACE _GLIBCXX_ASSERTIONS)
-else()
-  target_link_options(norv_options INTERFACE $<$<NOT:$<BOOL:$<TARGET_PROPERTY:NORV_KEEP_SYMBOLS>>>:-s>)
-endif()
 
 # What goes into other makers' processes and parses their files: canaries in its frames, sizes checked where
 # they are known, and an image that the system may lay out anywhere and doesn't run data of.
 add_library(norv_hardening INTERFACE)
-target_compile_options(norv_hardening INTERFACE -fstack-protector-strong)
-target_link_options(norv_hardening INTERFACE -Wl,--dynamicbase,--high-entropy-va,--nxcompat)
-target_link_libraries(norv_hardening INTERFACE ssp)
-if(NOT CMAKE_BUILD_TYPE STREQUAL "Debug") # needs optimisation
-  target_compile_definitions(norv_hardening INTERFACE _FORTIFY_SOURCE=2)
-endif()
 
-# The library once more, for the tests: it stops at undefined behaviour, and where the standard library is asked
-# what it must not be. A trap is looked up by the names of functions: with lines and types, linking would take
-# longer than the tests. It needs no run-time library, which MinGW-w64 doesn't have; vptr checks would need one.
-add_library(norv_traps INTERFACE)
-target_compile_definitions(norv_traps INTERFACE _GLIBCXX_ASSERTIONS)
-target_compile_options(norv_traps INTERFACE
-                       -O0 -g0 -U_FORTIFY_SOURCE # needs optimisation
-                       -fsanitize=undefined -fsanitize-undefined-trap-on-error -fno-sanitize=vptr
-                       -Wa,-mbig-obj) # whose sections outgrow the plain object format
+if(MSVC)
+  include(${CMAKE_CURRENT_LIST_DIR}/MicrosoftOptions.cmake)
+else()
+  include(${CMAKE_CURRENT_LIST_DIR}/GnuOptions.cmake)
+endif()
