@@ -20,8 +20,8 @@ else()
 endif()
 
 target_compile_options(norv_hardening INTERFACE -fstack-protector-strong)
-target_link_options(norv_hardening INTERFACE -Wl,--dynamicbase,--high-entropy-va,--nxcompat)
-target_link_libraries(norv_hardening INTERFACE ssp)
+# To the linker too: the compiler knows in which library the canaries are, if in any of its own.
+target_link_options(norv_hardening INTERFACE -fstack-protector-strong -Wl,--dynamicbase,--high-entropy-va,--nxcompat)
 if(NOT CMAKE_BUILD_TYPE STREQUAL "Debug") # needs optimisation
   target_compile_definitions(norv_hardening INTERFACE _FORTIFY_SOURCE=2)
 endif()
