@@ -11,7 +11,7 @@ set(NORV_WIDE_MAIN "")
 set(CMAKE_MSVC_RUNTIME_LIBRARY MultiThreaded$<$<CONFIG:Debug>:Debug>)
 
 norv_compile_options(norv_options /W4 /WX /external:anglebrackets /external:W0
-                     /permissive- /Zc:__cplusplus /Zc:inline /utf-8
+                     /permissive- /Zc:__cplusplus /Zc:preprocessor /Zc:inline /utf-8
                      /bigobj) # the tests' sections outgrow the plain object format
 # An attribute that it doesn't know, [[gnu::format]]; room for alignment, where it was asked for; and definitions of a
 # test's own, which the headers that are read once for all tests weren't read with.
