@@ -16,7 +16,8 @@ GUIDE = sorted((DOCS / "guide").glob("*.md"))
 SITE = norv.ROOT / "build/docs/html"
 HEADER = norv.ROOT / "include/norvepa.h"
 SAMPLES = norv.ROOT / "examples/store"
-SOURCES = [HEADER, norv.ROOT / "CMakeLists.txt", *(file for file in DOCS.rglob("*") if file.is_file())]
+SOURCES = [HEADER, norv.ROOT / "CMakeLists.txt"]
+SOURCES += [file for file in DOCS.rglob("*") if file.is_file() and file.suffix != ".pyc"]
 COMPILER = "x86_64-w64-mingw32-gcc-posix"
 TRACE_KEY = r"HKLM\Software\MARVOLT\DRAVIK\TrcParams"
 
