@@ -268,6 +268,36 @@ class HeaderFilter(unittest.TestCase):
         self.assertIn(r"<code>&lt;a\\b&gt;</code> and &lt; or 50\% of \#1.", text)
 
 
+class PageFilter(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.filter = tool("page-filter")
+
+    def filtered(self, text):
+        return self.filter.filtered(DOCS / "guide/store.md", "# A page\n" + text)
+
+    def test_names_a_page_as_its_file(self):
+        self.assertEqual(self.filtered(""), "# A page {#store}\n")
+
+    def test_leads_from_page_to_page(self):
+        self.assertIn("[on](@ref driver_records)", self.filtered("[on](driver-records.md)"))
+        self.assertIn("[on](@ref exports)", self.filtered("[on](../exports.md)"))
+        self.assertIn("[on](@ref every_call)", self.filtered("[on](../../include/norvepa.h)"))
+
+    def test_leaves_a_file_that_the_site_lacks_as_text(self):
+        self.assertIn("the code\n", self.filtered("[the code](../../src/NorvepaBl64x.def)\n"))
+
+    def test_links_functions_and_result_codes_where_they_are_named(self):
+        text = self.filtered("`LogNameCreateBL`, `PGSP_OK` and `main`\n")
+
+        self.assertIn("[LogNameCreateBL](@ref LogNameCreateBL), [PGSP_OK](@ref PGSP_OK) and `main`\n", text)
+
+    def test_leaves_examples_as_they_are(self):
+        example = "```c\nf(); /* [on](store.md) */\n```\n"
+
+        self.assertIn(example, self.filtered(example))
+
+
 class CheckLinks(unittest.TestCase):
     PAGES = {
         "start.html": '<a href="other.html#there">on</a><a href="https://example.org/">out</a>',
