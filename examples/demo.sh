@@ -53,9 +53,11 @@ run norvctl name get 'Kessel#1' LogDevice
 run norvctl name get 'Kessel#1' Einheit
 run norvctl --json name get 'Kessel#1' LogDevice
 
-say 'The same from the C and the C++ example'
-run client_c 'Kessel#1'
-run client_cpp 'Kessel#1' LogDevice CP_TYPE
+say 'The same library from a C and a C++ client: a value with what the catalogue says of it, and the whole plant'
+run client_c get Kesselhaus watchdog
+run client_c allowed Kesselhaus watchdog
+refused client_c set Kesselhaus watchdog 15
+run client_cpp overview
 
 say 'Failures are told in words, with the code'
 refused norvctl name get 'Kessel#1' NoSuchParameter
@@ -179,3 +181,6 @@ iconv -f CP1252 -t UTF-8 "$store/trace/Demo1.TRC" | sed -n '1,18p'
 
 say 'What the driver of the new log device receives: what its Load names, with the baud rate that was applied'
 run norvctl device driver-read 'Mischer Süd'
+
+say 'The same from the example for writers of drivers'
+run client_driver 'Mischer Süd'

@@ -1,0 +1,3 @@
+module norvepa.example/client_go
+
+go 1.19
