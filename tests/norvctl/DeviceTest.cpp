@@ -135,7 +135,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Refused{"OffTheStep", L"Kesselhaus", L"watchdog", L"15",
                             "(8058 PGSP_NOT_IN_STEP): allowed are 10 to 30000 in steps of 10\n"},
                     Refused{"NotABool", L"Waage Rampe 2", L"hw_handshake", L"1",
-                            "(8052 PGSP_NOT_A_BOOL): allowed are true and false\n"},
+                            "(8052 PGSP_NOT_A_BOOL): allowed are true, false\n"},
                     Refused{"AProtectedAttribute", L"Kesselhaus", L"DeviceID", L"AFK110",
                             "Kesselhaus, DeviceID: there is no place to store the parameter (8514"}),
     [](const auto& refused) { return refused.param.name; });

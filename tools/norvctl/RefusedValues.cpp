@@ -1,11 +1,11 @@
 #include "RefusedValues.h"
 
 #include "Device.h"
+#include "FileOutline.h"
 #include "Text.h"
 #include "norvepa.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <set>
 
@@ -14,10 +14,6 @@ namespace norvctl
 
 namespace
 {
-
-// The sections that an enumeration of all values tells, without telling which.
-constexpr std::array<const wchar_t*, 5> EnumeratedSections{L"DeviceHeader", L"LocalSettings",
-                                                           L"NetworkSettings", L"Bindings", L"SpareSection"};
 
 bool IsEnumerated(const std::wstring& section)
 {

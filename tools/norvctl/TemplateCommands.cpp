@@ -3,6 +3,7 @@
 #include "LinkSection.h"
 #include "Reads.h"
 #include "Result.h"
+#include "Template.h"
 #include "Text.h"
 #include "norvepa.h"
 
@@ -18,7 +19,6 @@ namespace
 {
 
 constexpr wchar_t CatalogueWord[] = L"meta"; // the folder word of changes of the catalogue
-constexpr wchar_t TemplatesFolder[] = L"DefaultLogDevices";
 
 struct Arguments
 {
@@ -43,19 +43,9 @@ void List(const Report& report)
     report.Answer(AsLines(names), names);
 }
 
-std::vector<NameAndValue> ValuesOf(const std::string& name)
-{
-    const std::wstring file = ToWide(name);
-    return EnumeratePairs(name, [&](uint32_t index, wchar_t* parameter, uint32_t* parameterLength,
-                                    wchar_t* value, uint32_t* valueLength) {
-        return PGSP_DefDeviceGetEnumValueBL(file.c_str(), index, parameter, parameterLength, value,
-                                            valueLength);
-    });
-}
-
 void Show(const Report& report, const Arguments& arguments)
 {
-    const auto values = ValuesOf(arguments.name);
+    const auto values = ValuesOfTemplate(arguments.name);
     report.Answer(AsLines(values), {{"template", arguments.name}, {"values", AsObject(values)}});
 }
 

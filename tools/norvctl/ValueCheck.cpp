@@ -7,9 +7,8 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <cmath>
-#include <cwchar>
 #include <optional>
+#include <utility>
 
 namespace norvctl
 {
@@ -19,7 +18,6 @@ namespace
 
 constexpr wchar_t BoardsFolder[] = L"Boards";
 constexpr wchar_t ProtocolsFolder[] = L"Protocols";
-constexpr int DecimalBase = 10;
 
 std::optional<std::wstring> WordOf(const wchar_t* folder, const std::wstring& file,
                                    const std::wstring& parameter, const wchar_t* word)
@@ -72,15 +70,29 @@ std::wstring FirstToken(const std::wstring& entry)
                                        : entry.substr(begin, entry.find(L'/', begin) - begin);
 }
 
-bool IsListed(const wchar_t* folder, const std::wstring& file, const wchar_t* list, const std::wstring& value)
+// The values of a list; none when it can't be read.
+std::vector<std::wstring> TokensOf(const wchar_t* folder, const std::wstring& file,
+                                   const std::wstring& parameter)
 {
-    const std::vector<std::string> entries =
-        EnumerateTexts(ToUtf8(file), [&](uint32_t index, wchar_t* text, uint32_t* length) {
-            return PGSP_TemplateGetEnumValueRawBL(folder, file.c_str(), list, index, text, length);
+    const std::wstring list = L"Constraints\\" + parameter;
+    std::vector<std::wstring> tokens;
+    for (uint32_t index = 0;; ++index)
+    {
+        const ReadResult read = ReadText([&](wchar_t* text, uint32_t* length) {
+            return PGSP_TemplateGetEnumValueRawBL(folder, file.c_str(), list.c_str(), index, text, length);
         });
-    return std::any_of(entries.begin(), entries.end(), [&](const std::string& entry) {
-        return EqualNoCase(FirstToken(ToWide(entry)), value);
-    });
+        if (read.result != PGSP_OK)
+        {
+            return tokens;
+        }
+        tokens.push_back(FirstToken(ToWide(read.value)));
+    }
+}
+
+bool Holds(const std::vector<std::wstring>& tokens, const std::wstring& value)
+{
+    return std::any_of(tokens.begin(), tokens.end(),
+                       [&](const std::wstring& token) { return EqualNoCase(token, value); });
 }
 
 // A list that is made of sections can't be read, only asked; and of any list of the board that is one.
@@ -96,60 +108,9 @@ bool IsBool(const std::wstring& value)
     return lstrcmpiW(value.c_str(), L"true") == 0 || lstrcmpiW(value.c_str(), L"false") == 0;
 }
 
-// A text counts by its leading digits, and without any as 0.
-double ToNumber(const std::wstring& text, const std::wstring& base)
+bool IsBaudrate(const std::wstring& parameter)
 {
-    const long given = std::wcstol(base.c_str(), nullptr, DecimalBase);
-    const int radix = given < 2 || given > 35 ? DecimalBase : static_cast<int>(given);
-    return static_cast<double>(std::wcstol(text.c_str(), nullptr, radix));
-}
-
-// In any base it is stored as a decimal one.
-bool IsStorable(const std::wstring& value)
-{
-    wchar_t* end = nullptr;
-    static_cast<void>(std::wcstol(value.c_str(), &end, DecimalBase));
-    return *end == L'\0';
-}
-
-// Words stand for values of the catalogue's.
-std::wstring Replaced(const ValueLimits& limits, const std::wstring& value)
-{
-    if (EqualNoCase(value, L"min"))
-    {
-        return limits.min;
-    }
-    if (EqualNoCase(value, L"max"))
-    {
-        return limits.max;
-    }
-    return EqualNoCase(value, L"default") ? limits.standard : value;
-}
-
-int32_t CheckInteger(const ValueLimits& limits, const std::wstring& value)
-{
-    if (value.empty())
-    {
-        return PGSP_ERR_INVALID_PARAMETERS;
-    }
-    // Without a minimum the value isn't looked at: a maximum alone is compared with 0.
-    const bool hasMin = !limits.min.empty();
-    const double number = hasMin ? ToNumber(value, limits.base) : 0;
-    const double minimum = hasMin ? ToNumber(limits.min, limits.base) : 0;
-    if (number < minimum)
-    {
-        return PGSP_SET_VAL_LESS_THAN_MIN;
-    }
-    if (!limits.max.empty() && number > ToNumber(limits.max, limits.base))
-    {
-        return PGSP_SET_VAL_BIGGER_THAN_MAX;
-    }
-    const double step = hasMin ? ToNumber(limits.step, limits.base) : 0;
-    if (step >= 2 && std::fmod(number - minimum, step) != 0)
-    {
-        return PGSP_NOT_IN_STEP;
-    }
-    return IsStorable(value) ? PGSP_OK : PGSP_ERR_INVALID_PARAMETERS;
+    return EqualNoCase(parameter, L"baudrate");
 }
 
 // An empty value is refused ahead of the list.
@@ -166,38 +127,81 @@ int32_t CheckListed(const std::wstring& value, bool isListed)
 
 ValueCheck::ValueCheck(const std::string& deviceId, const std::string& cpType)
     : m_board(BoardPrefix + ToWide(deviceId.starts_with('*') ? deviceId.substr(1) : deviceId)),
-      m_protocol(ProtocolPrefix + ToWide(cpType)),
-      m_parameters(ParametersOf(m_board, m_protocol))
+      m_protocol(ProtocolPrefix + ToWide(cpType))
 {
 }
 
 int32_t ValueCheck::Check(const std::wstring& parameter, const std::wstring& value) const
 {
-    const ValueType& type = TypeOf(parameter);
-    if (EqualNoCase(type.word, L"bool"))
+    switch (KindOf(parameter))
     {
+    case ValueKind::Bool:
         return IsBool(value) ? PGSP_OK : PGSP_NOT_A_BOOL;
-    }
-    if (!EqualNoCase(type.word, L"int"))
-    {
+    case ValueKind::Integer:
+        return CheckInteger(LimitsOf(parameter), value);
+    case ValueKind::Listed:
+        return CheckListed(value, IsListed(parameter, value));
+    default:
         return PGSP_OK;
     }
-    if (EqualNoCase(parameter, L"baudrate"))
-    {
-        return CheckListed(value, IsBaudrate(type, value));
-    }
-    if (EqualNoCase(parameter, L"l4_timeout"))
-    {
-        return CheckListed(value, IsTimeout(type, value));
-    }
-    const ValueLimits& limits = LimitsOf(parameter);
-    return CheckInteger(limits, Replaced(limits, value));
 }
 
-bool ValueCheck::HasLimits(const std::wstring& parameter) const
+ValueKind ValueCheck::KindOf(const std::wstring& parameter) const
 {
     const std::wstring& type = TypeOf(parameter).word;
-    return EqualNoCase(type, L"int") || EqualNoCase(type, L"bool");
+    if (EqualNoCase(type, L"bool"))
+    {
+        return ValueKind::Bool;
+    }
+    if (!EqualNoCase(type, L"int"))
+    {
+        return ValueKind::Anything;
+    }
+    return IsBaudrate(parameter) || EqualNoCase(parameter, L"l4_timeout") ? ValueKind::Listed
+                                                                          : ValueKind::Integer;
+}
+
+bool ValueCheck::IsSame(const std::wstring& parameter, const std::wstring& left,
+                        const std::wstring& right) const
+{
+    switch (KindOf(parameter))
+    {
+    case ValueKind::Bool:
+        return lstrcmpiW(left.c_str(), right.c_str()) == 0;
+    case ValueKind::Integer:
+        return IsSameInteger(LimitsOf(parameter), left, right);
+    case ValueKind::Listed:
+        return EqualNoCase(left, right);
+    default:
+        return left == right;
+    }
+}
+
+// The values of both lists that the check takes: what it looks up isn't always a list that can be read.
+std::vector<std::wstring> ValueCheck::ListOf(const std::wstring& parameter) const
+{
+    std::vector<std::wstring> listed;
+    for (const auto& [folder, file] :
+         {std::pair(BoardsFolder, &m_board), std::pair(ProtocolsFolder, &m_protocol)})
+    {
+        for (const std::wstring& token : TokensOf(folder, *file, parameter))
+        {
+            if (!Holds(listed, token) && Check(parameter, token) == PGSP_OK)
+            {
+                listed.push_back(token);
+            }
+        }
+    }
+    return listed;
+}
+
+const std::vector<std::wstring>& ValueCheck::Parameters() const
+{
+    if (!m_parameters)
+    {
+        m_parameters = ParametersOf(m_board, m_protocol);
+    }
+    return *m_parameters;
 }
 
 const ValueType& ValueCheck::TypeOf(const std::wstring& parameter) const
@@ -245,19 +249,15 @@ std::wstring ValueCheck::Word(const std::wstring& parameter, const wchar_t* word
     return ofBoard ? *ofBoard : WordOf(ProtocolsFolder, m_protocol, parameter, word).value_or(std::wstring{});
 }
 
-// The list is the board's, whichever of the two tells the type.
-bool ValueCheck::IsBaudrate(const ValueType& type, const std::wstring& value) const
+// The list is that of the file that tells the type. But that of baud rates is the board's, whichever does.
+bool ValueCheck::IsListed(const std::wstring& parameter, const std::wstring& value) const
 {
-    return type.isOfBoard ? IsListed(BoardsFolder, m_board, L"Constraints\\baudrate", value)
-                          : IsSectionOfAList(m_board, value);
-}
-
-bool ValueCheck::IsTimeout(const ValueType& type, const std::wstring& value) const
-{
-    constexpr wchar_t list[] = L"Constraints\\l4_timeout";
-
-    return type.isOfBoard ? IsListed(BoardsFolder, m_board, list, value)
-                          : IsListed(ProtocolsFolder, m_protocol, list, value);
+    if (TypeOf(parameter).isOfBoard)
+    {
+        return Holds(TokensOf(BoardsFolder, m_board, parameter), value);
+    }
+    return IsBaudrate(parameter) ? IsSectionOfAList(m_board, value)
+                                 : Holds(TokensOf(ProtocolsFolder, m_protocol, parameter), value);
 }
 
 } // namespace norvctl

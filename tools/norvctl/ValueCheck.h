@@ -3,8 +3,11 @@
 // Whether a log device would take a value, told without offering it: what the library checks ahead of a
 // change, from the words and the lists that the catalogue has for a parameter.
 
+#include "IntegerLimits.h"
+
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,9 +24,14 @@ struct ValueType
     std::wstring word;
     bool isOfBoard = false;
 };
-struct ValueLimits
+
+// How a value is checked.
+enum class ValueKind
 {
-    std::wstring min, max, step, base, standard;
+    Anything, // not at all
+    Bool,
+    Integer,
+    Listed
 };
 
 // Where a log device keeps a parameter.
@@ -34,7 +42,7 @@ struct Place
 };
 
 // The check of all log devices that have a board and a protocol in common. A word of the board's wins over
-// the protocol's. Both files must be there.
+// the protocol's. A file that isn't there says nothing.
 class ValueCheck
 {
 public:
@@ -44,31 +52,44 @@ public:
     // PGSP_OK, or the code with which LogDeviceSetValueBL would refuse the value.
     [[nodiscard]] int32_t Check(const std::wstring& parameter, const std::wstring& value) const;
 
+    [[nodiscard]] ValueKind KindOf(const std::wstring& parameter) const;
+
     // False for a parameter that takes any value.
-    [[nodiscard]] bool HasLimits(const std::wstring& parameter) const;
+    [[nodiscard]] bool HasLimits(const std::wstring& parameter) const
+    {
+        return KindOf(parameter) != ValueKind::Anything;
+    }
+
+    // Whether two values of a parameter mean the same to the checks.
+    [[nodiscard]] bool IsSame(const std::wstring& parameter, const std::wstring& left,
+                              const std::wstring& right) const;
+
+    // The limits of a whole number, and the default of any parameter.
+    [[nodiscard]] const ValueLimits& LimitsOf(const std::wstring& parameter) const;
+
+    // Of a parameter that is checked by a list: the values that it takes.
+    [[nodiscard]] std::vector<std::wstring> ListOf(const std::wstring& parameter) const;
 
     [[nodiscard]] const Place& PlaceOf(const std::wstring& parameter) const;
 
     // Parameters that both files tell of, with repetitions. A file tells of those ahead of the first one that
-    // has no default.
-    [[nodiscard]] const std::vector<std::wstring>& Parameters() const { return m_parameters; }
+    // has no default. Both files must be there.
+    [[nodiscard]] const std::vector<std::wstring>& Parameters() const;
 
 private:
     [[nodiscard]] const ValueType& TypeOf(const std::wstring& parameter) const;
-    [[nodiscard]] const ValueLimits& LimitsOf(const std::wstring& parameter) const;
     [[nodiscard]] ValueType ReadType(const std::wstring& parameter) const;
     [[nodiscard]] Place ReadPlace(const std::wstring& parameter) const;
     [[nodiscard]] ValueLimits ReadLimits(const std::wstring& parameter) const;
     [[nodiscard]] std::wstring Word(const std::wstring& parameter, const wchar_t* word) const;
-    [[nodiscard]] bool IsBaudrate(const ValueType& type, const std::wstring& value) const;
-    [[nodiscard]] bool IsTimeout(const ValueType& type, const std::wstring& value) const;
+    [[nodiscard]] bool IsListed(const std::wstring& parameter, const std::wstring& value) const;
 
     std::wstring m_board; // the names of the files
     std::wstring m_protocol;
-    std::vector<std::wstring> m_parameters;
 
     // By the parameter in small letters. Each word costs a look at both files, so that none is read ahead of
     // its need.
+    mutable std::optional<std::vector<std::wstring>> m_parameters;
     mutable std::map<std::wstring, ValueType> m_types;
     mutable std::map<std::wstring, Place> m_places;
     mutable std::map<std::wstring, ValueLimits> m_limits;
