@@ -25,6 +25,13 @@ void RequireSame(const StoreBackup& read, const StoreBackup& backup)
 
 } // namespace
 
+StoreBackup BackupOf(const std::wstring& root)
+{
+    FILETIME now{};
+    GetSystemTimeAsFileTime(&now);
+    return {std::uint64_t{now.dwHighDateTime} << 32U | now.dwLowDateTime, ReadSnapshot(root)};
+}
+
 StoreBackup ReadBackupFile(const std::wstring& file)
 {
     const std::wstring path = AnyLengthPath(file);

@@ -11,6 +11,9 @@
 namespace norvctl
 {
 
+// All below a data root as it is now; nothing where there is no such folder (see StoreSnapshot.h).
+[[nodiscard]] StoreBackup BackupOf(const std::wstring& root);
+
 // Throws with the file and what is wrong, unless it is a whole backup.
 [[nodiscard]] StoreBackup ReadBackupFile(const std::wstring& file);
 

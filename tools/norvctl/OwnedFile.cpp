@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <new>
 #include <vector>
 
 namespace norvctl
@@ -26,18 +27,27 @@ OwnedFile OpenFile(const std::wstring& path, const FileAccess& access)
 FileInTheMaking::FileInTheMaking(const std::wstring& path)
     : m_path(path), m_file(OpenFile(path, {GENERIC_READ | GENERIC_WRITE | DELETE, 0, CREATE_ALWAYS}))
 {
-    if (!m_file)
+    if (!m_file || !SetToGo(TRUE))
     {
         throw FileFailure(path);
     }
-    SetToGo(TRUE);
 }
 
 // A file that is to go goes when its handle is closed.
-void FileInTheMaking::SetToGo(BOOLEAN goes) const
+bool FileInTheMaking::SetToGo(BOOLEAN goes) const
 {
     FILE_DISPOSITION_INFO disposition{goes};
-    SetFileInformationByHandle(m_file.get(), FileDispositionInfo, &disposition, sizeof disposition);
+    return SetFileInformationByHandle(m_file.get(), FileDispositionInfo, &disposition, sizeof disposition) !=
+           FALSE;
+}
+
+// A time of 0 stays as it is.
+bool FileInTheMaking::SetInformation(std::uint32_t attributes, std::uint64_t writeTime) const
+{
+    FILE_BASIC_INFO information{};
+    information.LastWriteTime.QuadPart = static_cast<LONGLONG>(writeTime);
+    information.FileAttributes = attributes == 0 ? FILE_ATTRIBUTE_NORMAL : attributes;
+    return SetFileInformationByHandle(m_file.get(), FileBasicInfo, &information, sizeof information) != FALSE;
 }
 
 void FileInTheMaking::Write(std::string_view bytes)
@@ -82,7 +92,31 @@ std::string FileInTheMaking::ReadBack() const
     }
 }
 
+void FileInTheMaking::SetAs(const KeptFile& file)
+{
+    m_attributes = file.attributes;
+    if (!SetInformation(m_attributes & ~std::uint32_t{FILE_ATTRIBUTE_READONLY}, file.writeTime))
+    {
+        throw FileFailure(m_path);
+    }
+}
+
+// What is read-only can't be set to go: it becomes that last.
 bool FileInTheMaking::TryToBecome(const std::wstring& path, Existing existing)
+{
+    const bool isReadOnly = (m_attributes & FILE_ATTRIBUTE_READONLY) != 0;
+    if (SetToGo(FALSE) && (!isReadOnly || SetInformation(m_attributes, 0)) && Rename(path, existing))
+    {
+        return true;
+    }
+    const DWORD error = GetLastError();
+    const bool goes =
+        SetInformation(m_attributes & ~std::uint32_t{FILE_ATTRIBUTE_READONLY}, 0) && SetToGo(TRUE);
+    SetLastError(goes ? error : DWORD{ERROR_WRITE_FAULT});
+    return false;
+}
+
+bool FileInTheMaking::Rename(const std::wstring& path, Existing existing) const
 {
     const std::size_t nameSize = path.size() * sizeof(wchar_t);
     std::vector<std::byte> buffer(sizeof(FILE_RENAME_INFO) + nameSize); // which has room for a terminator
@@ -90,29 +124,8 @@ bool FileInTheMaking::TryToBecome(const std::wstring& path, Existing existing)
     information->ReplaceIfExists = static_cast<BOOLEAN>(existing);
     information->FileNameLength = static_cast<DWORD>(nameSize);
     std::memcpy(information->FileName, path.data(), nameSize);
-
-    SetToGo(FALSE);
-    if (SetFileInformationByHandle(m_file.get(), FileRenameInfo, information,
-                                   static_cast<DWORD>(buffer.size())))
-    {
-        m_path = path;
-        return true;
-    }
-    const DWORD error = GetLastError();
-    SetToGo(TRUE);
-    SetLastError(error);
-    return false;
-}
-
-void FileInTheMaking::SetAs(const KeptFile& file)
-{
-    FILE_BASIC_INFO information{};
-    information.LastWriteTime.QuadPart = static_cast<LONGLONG>(file.writeTime);
-    information.FileAttributes = file.attributes == 0 ? FILE_ATTRIBUTE_NORMAL : file.attributes;
-    if (!SetFileInformationByHandle(m_file.get(), FileBasicInfo, &information, sizeof information))
-    {
-        throw FileFailure(m_path);
-    }
+    return SetFileInformationByHandle(m_file.get(), FileRenameInfo, information,
+                                      static_cast<DWORD>(buffer.size())) != FALSE;
 }
 
 } // namespace norvctl

@@ -44,16 +44,20 @@ public:
     void Write(std::string_view bytes);                 // behind what has been written; to the disk
     [[nodiscard]] std::string ReadBack() const;
 
+    void SetAs(const KeptFile& file); // attributes and write time; behind all writing
+
     // Takes the other place by one renaming. False, with the reason in the system's last error, when it can't;
-    // it may be tried again then. Once it has succeeded only SetAs may follow.
+    // it may be tried again then. Once it has succeeded nothing may follow.
     [[nodiscard]] bool TryToBecome(const std::wstring& path, Existing existing);
-    void SetAs(const KeptFile& file); // attributes and write time
 
 private:
-    void SetToGo(BOOLEAN goes) const;
+    [[nodiscard]] bool SetToGo(BOOLEAN goes) const;
+    [[nodiscard]] bool SetInformation(std::uint32_t attributes, std::uint64_t writeTime) const;
+    [[nodiscard]] bool Rename(const std::wstring& path, Existing existing) const;
 
     std::wstring m_path;
     OwnedFile m_file;
+    std::uint32_t m_attributes = 0;
 };
 
 } // namespace norvctl

@@ -207,8 +207,8 @@ void PutFile(const std::wstring& path, const KeptFile& file)
 {
     FileInTheMaking made(PlaceBeside(path));
     made.Write(file.bytes);
-    ReplaceOrRemove(path, [&] { return made.TryToBecome(path, Existing::IsReplaced); });
     made.SetAs(file);
+    ReplaceOrRemove(path, [&] { return made.TryToBecome(path, Existing::IsReplaced); });
 }
 
 } // namespace norvctl

@@ -1,5 +1,6 @@
 #include "StoreSnapshot.h"
 
+#include "Progress.h"
 #include "StoreFiles.h"
 #include "Text.h"
 
@@ -61,16 +62,17 @@ std::size_t StoreSnapshot::Bytes() const
     return bytes;
 }
 
-StoreSnapshot ReadSnapshot(const std::wstring& root, const TellFile& tell)
+StoreSnapshot ReadSnapshot(const std::wstring& root)
 {
     const std::wstring path = AnyLengthPath(root);
     StoreSnapshot snapshot;
     std::vector<std::wstring> names;
     Gather(path, {}, snapshot, names);
+    Progress progress("read", names.size());
     std::size_t done = 0;
     for (const std::wstring& name : names)
     {
-        tell(done++, names.size(), name);
+        progress.Tell(done++, ToUtf8(name));
         if (auto file = ReadKeptFile(PathBelow(path, name)))
         {
             snapshot.files.emplace(name, *std::move(file));

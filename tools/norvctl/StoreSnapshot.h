@@ -6,7 +6,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <string>
 
@@ -34,11 +33,9 @@ struct StoreSnapshot
     [[nodiscard]] std::size_t Bytes() const; // of all files
 };
 
-using TellFile = std::function<void(std::size_t done, std::size_t total, const std::wstring& name)>;
-
 // Each file whole, also while others change it: one that is in use is waited for two seconds. Files that go
 // meanwhile and left-overs of files in the making aren't in it. Throws when a file can't be read, naming it, and
-// when there is a link to elsewhere or a name that a backup can't keep.
-[[nodiscard]] StoreSnapshot ReadSnapshot(const std::wstring& root, const TellFile& tell);
+// when there is a link to elsewhere or a name that a backup can't keep. Shows how far it has come.
+[[nodiscard]] StoreSnapshot ReadSnapshot(const std::wstring& root);
 
 } // namespace norvctl
