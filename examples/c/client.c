@@ -11,7 +11,6 @@
 #include <windows.h>
 #include <io.h>
 #include <objbase.h>
-#include <process.h>
 
 #include <fcntl.h>
 #include <stdio.h>
@@ -153,7 +152,7 @@ struct change
 };
 
 /* A thread that writes has COM initialised. The one that the library was loaded on has that already. */
-static unsigned __stdcall write_change(void* argument)
+static DWORD WINAPI write_change(void* argument)
 {
     struct change* const change = argument;
     const HRESULT com = CoInitializeEx(NULL, COINIT_APARTMENTTHREADED);
@@ -169,11 +168,11 @@ static unsigned __stdcall write_change(void* argument)
 /* Writes on a thread of its own, as a program does that has a window to keep alive. */
 static int write_aside(struct change* change)
 {
-    const HANDLE thread = (HANDLE)_beginthreadex(NULL, 0, write_change, change, 0, NULL);
+    const HANDLE thread = CreateThread(NULL, 0, write_change, change, 0, NULL);
 
     if (thread == NULL)
     {
-        return fail(L"_beginthreadex", change->device, ERROR_OUTOFMEMORY);
+        return fail(L"CreateThread", change->device, (int32_t)GetLastError());
     }
     WaitForSingleObject(thread, INFINITE);
     CloseHandle(thread);
