@@ -4,6 +4,7 @@
 // and nothing that lies in it or needs it is told of.
 
 #include "Finding.h"
+#include "Progress.h"
 #include "ValueCheck.h"
 
 #include <cstdint>
@@ -16,6 +17,9 @@
 
 namespace norvctl
 {
+
+// DoctorCommand.cpp: all that is wrong.
+[[nodiscard]] Findings ExamineStore();
 
 // Which folders are there.
 struct StoreFolders
@@ -69,7 +73,7 @@ private:
 };
 
 // DoctorDevices.cpp, DoctorNames.cpp
-void CheckDevices(Catalogue& catalogue, const StoreFolders& folders, Findings& findings);
+void CheckDevices(Catalogue& catalogue, const StoreFolders& folders, Progress& progress, Findings& findings);
 void CheckNames(const StoreFolders& folders, Findings& findings);
 
 // DoctorFiles.cpp: what holds for files of every kind.

@@ -9,23 +9,9 @@ namespace
 
 constexpr int FoundWrong = 1; // the exit status
 
-Findings Examine()
-{
-    Findings findings;
-    const StoreFolders folders = CheckFolders(findings);
-    if (folders.schemas)
-    {
-        CheckSchemas(findings);
-    }
-    Catalogue catalogue(folders, findings);
-    CheckDevices(catalogue, folders, findings);
-    CheckNames(folders, findings);
-    return findings;
-}
-
 void Tell(const Report& report)
 {
-    const Findings findings = Examine();
+    const Findings findings = ExamineStore();
     report.Answer(findings.empty() ? "nothing is wrong" : AsLines(findings), AsArray(findings));
     if (!findings.empty())
     {
@@ -34,6 +20,21 @@ void Tell(const Report& report)
 }
 
 } // namespace
+
+Findings ExamineStore()
+{
+    Progress progress("doctor: log devices");
+    Findings findings;
+    const StoreFolders folders = CheckFolders(findings);
+    if (folders.schemas)
+    {
+        CheckSchemas(findings);
+    }
+    Catalogue catalogue(folders, findings);
+    CheckDevices(catalogue, folders, progress, findings);
+    CheckNames(folders, findings);
+    return findings;
+}
 
 void AddDoctorCommand(CLI::App& app, const Report& report)
 {

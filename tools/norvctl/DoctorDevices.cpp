@@ -110,7 +110,7 @@ void CheckDevice(const std::string& name, Catalogue& catalogue, Findings& findin
 
 } // namespace
 
-void CheckDevices(Catalogue& catalogue, const StoreFolders& folders, Findings& findings)
+void CheckDevices(Catalogue& catalogue, const StoreFolders& folders, Progress& progress, Findings& findings)
 {
     if (!folders.logDevices)
     {
@@ -119,9 +119,11 @@ void CheckDevices(Catalogue& catalogue, const StoreFolders& folders, Findings& f
     std::vector<std::string> names = AllDevices();
     TakeTemporaries(names, findings);
     TakeLeftOvers(DeviceKind, names, findings);
-    for (const std::string& name : names)
+    progress.Begin(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i)
     {
-        CheckDevice(name, catalogue, findings);
+        progress.Tell(i, names[i]);
+        CheckDevice(names[i], catalogue, findings);
     }
 }
 

@@ -19,6 +19,9 @@ public:
     Progress& operator=(const Progress&) = delete;
     ~Progress(); // takes the line away
 
+    // The number of steps is known now.
+    void Begin(std::size_t total) { m_total = total; }
+
     // So many steps are done; `present` is what comes next, as a file's name. Drawn a few times a second.
     void Tell(std::size_t done, const std::string& present);
 
