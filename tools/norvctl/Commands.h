@@ -31,6 +31,9 @@ void AddNdiCommands(CLI::App& device, const Report& report);        // device nd
 void AddDeviceProfileCommands(CLI::App& device, const Report& report);   // device profile, busparams
 void AddDeviceCatalogueCommands(CLI::App& device, const Report& report); // device choices, describe
 void AddDriverReadCommand(CLI::App& device, const Report& report);       // device driver-read
+void AddDeviceDiffCommand(CLI::App& device, const Report& report);       // device diff
+void AddDeviceExportCommand(CLI::App& device);                           // device export
+void AddDeviceImportCommand(CLI::App& device, const Report& report);     // device import
 
 // TextCommands.cpp: the verb text of each of these nouns.
 void AddDeviceTextCommand(CLI::App& device, const Report& report);

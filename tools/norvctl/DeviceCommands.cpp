@@ -162,6 +162,9 @@ void AddDeviceCommands(CLI::App& app, const Report& report)
     AddDeviceTextCommand(*device, report);
     AddDriverReadCommand(*device, report);
     AddDeviceXmlCommand(*device, report);
+    AddDeviceDiffCommand(*device, report);
+    AddDeviceExportCommand(*device);
+    AddDeviceImportCommand(*device, report);
 }
 
 } // namespace norvctl

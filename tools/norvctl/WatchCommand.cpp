@@ -1,5 +1,7 @@
 #include "Commands.h"
+#include "Example.h"
 #include "Result.h"
+#include "StoreWatchCommand.h"
 #include "Text.h"
 #include "WatchEvents.h"
 #include "norvepa.h"
@@ -87,23 +89,39 @@ void Watch(const Report& report, const Arguments& arguments)
     UnRegisterNotification(folder.c_str(), file.c_str(), owned.name.c_str());
 }
 
+void WatchFolderOrStore(const Report& report, const Arguments& arguments)
+{
+    if (arguments.folder.empty())
+    {
+        WatchStore(report, {arguments.count, arguments.timeout});
+    }
+    else
+    {
+        Watch(report, arguments);
+    }
+}
+
 } // namespace
 
 void AddWatchCommand(CLI::App& app, const Report& report)
 {
     const auto arguments = std::make_shared<Arguments>();
     CLI::App* const watch = app.add_subcommand(
-        "watch", "print a line for each change that a norvctl makes to a folder, or to one file of it");
-    watch->add_option("FOLDER", arguments->folder, "the folder word")
-        ->required()
+        "watch", "print a line for each change of the store, whoever makes it; or for each that a norvctl "
+                 "makes to a folder, or to one file of it");
+    watch->add_option("FOLDER", arguments->folder, "the folder word; without it, the whole store")
         ->check(CLI::IsMember({"LogDevices", "LogNames", "meta"}));
-    watch->add_option("FILE", arguments->file, "one log device, log name or template");
-    watch->add_option("--count", arguments->count, "end after so many changes");
+    watch->add_option("OBJECT", arguments->file, "one log device, log name or template");
+    watch->add_option("--count", arguments->count, "end after so many changes")->type_name("N");
     watch
         ->add_option("--timeout", arguments->timeout,
                      "give up when so many seconds pass without a change; 0 never does")
-        ->check(CLI::Range(0.0, LongestTimeout));
-    watch->callback([=, &report] { Watch(report, *arguments); });
+        ->check(CLI::Range(0.0, LongestTimeout))
+        ->type_name("SECONDS");
+    watch->callback([=, &report] { WatchFolderOrStore(report, *arguments); });
+    ShowExample(*watch, "norvctl watch");
+    ShowExample(*watch, "norvctl --json watch --count 1 --timeout 60");
+    ShowExample(*watch, "norvctl watch LogDevices Kesselhaus");
 }
 
 } // namespace norvctl

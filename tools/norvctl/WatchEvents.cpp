@@ -57,6 +57,20 @@ std::vector<std::wstring> WatchEventNames(const std::wstring& folder, const std:
     return names;
 }
 
+void TellWatches(const std::wstring& folder, const std::wstring& file)
+{
+    std::vector<std::wstring> names = WatchEventNames(folder, {});
+    const std::vector<std::wstring> ofFile = WatchEventNames(folder, file);
+    names.insert(names.end(), ofFile.begin(), ofFile.end());
+    for (const std::wstring& name : names)
+    {
+        if (const Event event{OpenEventW(EVENT_MODIFY_STATE, FALSE, name.c_str())})
+        {
+            SetEvent(event.get());
+        }
+    }
+}
+
 Announcement::Announcement(const std::wstring& folder, const std::wstring& file) : m_folder(folder)
 {
     if (file.find(TemporaryPrefix) != std::wstring::npos)

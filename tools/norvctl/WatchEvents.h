@@ -26,6 +26,9 @@ using Event = std::unique_ptr<void, CloseEvent>;
 // once.
 [[nodiscard]] std::vector<std::wstring> WatchEventNames(const std::wstring& folder, const std::wstring& file);
 
+// Tells the watches of a change that the library has announced to nobody.
+void TellWatches(const std::wstring& folder, const std::wstring& file);
+
 // A change that is about to be made to a file of a folder word.
 class Announcement
 {

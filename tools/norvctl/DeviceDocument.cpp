@@ -1,0 +1,290 @@
+#include "DeviceDocument.h"
+
+#include "Text.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+#include <set>
+#include <stdexcept>
+
+namespace norvctl
+{
+
+namespace
+{
+
+constexpr std::string_view Format = "norvctl log device";
+constexpr int Version = 1;
+constexpr int DeepestLevel = 5;                     // of containers within containers
+constexpr std::size_t LongestDocument = 20'000'000; // bytes
+
+constexpr std::array<const char*, 8> Keys{"format",   "version",  "name",       "board",
+                                          "protocol", "sections", "subdevices", "links"};
+
+bool IsTransferredLink(const NameAndValue& link)
+{
+    return std::any_of(TransferredLinks.begin(), TransferredLinks.end(),
+                       [&](std::string_view name) { return EqualNoCase(ToWide(name), ToWide(link.name)); });
+}
+
+std::vector<std::string> ValuesCalled(const ValueGroup& group, const std::string& name)
+{
+    std::vector<std::string> values;
+    for (const NameAndValue& each : group.values)
+    {
+        if (EqualNoCase(ToWide(each.name), ToWide(name)))
+        {
+            values.push_back(each.value);
+        }
+    }
+    return values;
+}
+
+Json AsObject(const ValueGroup& group)
+{
+    Json object = Json::object();
+    std::set<std::wstring> told;
+    for (const NameAndValue& each : group.values)
+    {
+        if (told.insert(ToLower(ToWide(each.name))).second)
+        {
+            const std::vector<std::string> values = ValuesCalled(group, each.name);
+            object[each.name] = values.size() == 1 ? Json(values.front()) : Json(values);
+        }
+    }
+    return object;
+}
+
+Json AsObject(const std::vector<ValueGroup>& groups)
+{
+    Json object = Json::object();
+    for (const ValueGroup& group : groups)
+    {
+        object[group.name] = AsObject(group);
+    }
+    return object;
+}
+
+// The keys so far of an object that is being parsed.
+struct ObjectKeys
+{
+    std::set<std::string> all;
+    std::string last;
+};
+
+std::string PlaceOf(const std::vector<ObjectKeys>& open)
+{
+    std::string place;
+    for (const ObjectKeys& object : open)
+    {
+        place += (place.empty() ? "" : "/") + object.last;
+    }
+    return place;
+}
+
+// A document is read with its places: "sections/LocalSettings/baudrate".
+class Reader
+{
+public:
+    explicit Reader(const std::string& source) : m_source(source) {}
+
+    [[noreturn]] void Refuse(const std::string& place, std::string_view what) const
+    {
+        throw std::runtime_error(place.empty() ? fmt::format("{}: {}", m_source, what)
+                                               : fmt::format("{}: {}: {}", m_source, place, what));
+    }
+
+    void Require(bool isRight, const std::string& place, std::string_view what) const
+    {
+        if (!isRight)
+        {
+            Refuse(place, what);
+        }
+    }
+
+    // Keys that come twice are refused here: a tree of them no longer tells.
+    [[nodiscard]] Json Parse(const std::string& bytes) const
+    {
+        std::vector<ObjectKeys> open;
+        const auto look = [&](int depth, Json::parse_event_t event, const Json& parsed) {
+            Require(depth <= DeepestLevel, PlaceOf(open), "no log device is nested so deep");
+            if (event == Json::parse_event_t::object_start)
+            {
+                open.emplace_back();
+            }
+            else if (event == Json::parse_event_t::object_end)
+            {
+                open.pop_back();
+            }
+            else if (event == Json::parse_event_t::key)
+            {
+                open.back().last = parsed.get<std::string>();
+                Require(open.back().all.insert(open.back().last).second, PlaceOf(open),
+                        "this key comes twice");
+            }
+            return true;
+        };
+        try
+        {
+            return Json::parse(bytes, look);
+        }
+        catch (const Json::exception& error)
+        {
+            Refuse({}, fmt::format("this isn't a JSON document: {}", error.what()));
+        }
+    }
+
+    [[nodiscard]] const Json& Member(const Json& root, const std::string& key) const
+    {
+        const auto member = root.find(key);
+        Require(member != root.end(), key, "this is missing");
+        return *member;
+    }
+
+    [[nodiscard]] std::string Text(const Json& value, const std::string& place) const
+    {
+        Require(value.is_string(), place, "this isn't a text");
+        auto text = value.get<std::string>();
+        Require(text.find('\0') == std::string::npos, place, "a text can't hold a zero character");
+        return text;
+    }
+
+    [[nodiscard]] std::string Name(const std::string& key, const std::string& place) const
+    {
+        Require(!key.empty() && key.find('\0') == std::string::npos, place, "this isn't a name");
+        return key;
+    }
+
+    void TakeValues(ValueGroup& group, const std::string& name, const Json& value,
+                    const std::string& place) const
+    {
+        if (!value.is_array())
+        {
+            group.values.push_back({name, Text(value, place)});
+            return;
+        }
+        Require(!value.empty(), place, "there is no value in this array");
+        for (std::size_t i = 0; i < value.size(); ++i)
+        {
+            group.values.push_back({name, Text(value[i], fmt::format("{}/{}", place, i))});
+        }
+    }
+
+    [[nodiscard]] ValueGroup Group(const std::string& name, const Json& values,
+                                   const std::string& place) const
+    {
+        Require(values.is_object(), place, "this isn't an object of values");
+        ValueGroup group{name, {}};
+        std::set<std::wstring> told;
+        for (const auto& [key, value] : values.items())
+        {
+            const std::string below = place + '/' + key;
+            Require(told.insert(ToLower(ToWide(Name(key, below)))).second, below,
+                    "this name comes twice, for case doesn't count: give it an array of its values");
+            TakeValues(group, key, value, below);
+        }
+        return group;
+    }
+
+    [[nodiscard]] std::vector<ValueGroup> Groups(const Json& root, const std::string& key) const
+    {
+        const Json& object = Member(root, key);
+        Require(object.is_object(), key, "this isn't an object");
+        std::vector<ValueGroup> groups;
+        for (const auto& [name, values] : object.items())
+        {
+            const std::string place = key + '/' + name;
+            groups.push_back(Group(Name(name, place), values, place));
+        }
+        return groups;
+    }
+
+private:
+    const std::string& m_source;
+};
+
+void RequireFormat(const Reader& reader, const Json& root)
+{
+    constexpr const char* notOurs = "this isn't a log device as device export writes it";
+    reader.Require(root.is_object() && root.contains("format") && root["format"] == Format, {}, notOurs);
+    const Json& version = reader.Member(root, "version");
+    reader.Require(version.is_number_integer() && version >= 1, "version", "this isn't a version");
+    reader.Require(version <= Version, "version",
+                   fmt::format("this is {}, and this norvctl knows {} and older", version.dump(), Version));
+    for (const auto& [key, value] : root.items())
+    {
+        reader.Require(std::find(Keys.begin(), Keys.end(), key) != Keys.end(), key, "no log device has this");
+    }
+}
+
+void RequireLinks(const Reader& reader, const std::vector<ValueGroup>& links)
+{
+    for (const ValueGroup& section : links)
+    {
+        const std::string place = "links/" + section.name;
+        reader.Require(section.name == "UserInterface" || section.name == "UserInterface64", place,
+                       "links stand in UserInterface and UserInterface64 only");
+        for (const NameAndValue& link : section.values)
+        {
+            reader.Require(IsTransferredLink(link), place + '/' + link.name,
+                           fmt::format("of links only {} can be set", fmt::join(TransferredLinks, ", ")));
+        }
+    }
+}
+
+} // namespace
+
+FileValues TransferredPart(const FileValues& file)
+{
+    FileValues part = file;
+    part.fingerprint = 0;
+    part.attributes = {{"DeviceID", AttributeOf(file, "DeviceID")},
+                       {"CP_TYPE", AttributeOf(file, "CP_TYPE")}};
+    for (ValueGroup& section : part.links)
+    {
+        std::erase_if(section.values, [](const NameAndValue& link) { return !IsTransferredLink(link); });
+    }
+    const auto isEmpty = [](const ValueGroup& group) { return group.values.empty(); };
+    std::erase_if(part.links, isEmpty);
+    std::erase_if(part.sections, isEmpty);
+    return part;
+}
+
+std::string AttributeOf(const FileValues& file, std::string_view name)
+{
+    const auto attribute = std::find_if(file.attributes.begin(), file.attributes.end(),
+                                        [=](const NameAndValue& each) { return each.name == name; });
+    return attribute == file.attributes.end() ? std::string{} : attribute->value;
+}
+
+Json AsJson(const DeviceDocument& document)
+{
+    return {{"format", Format},
+            {"version", Version},
+            {"name", document.name},
+            {"board", AttributeOf(document.content, "DeviceID")},
+            {"protocol", AttributeOf(document.content, "CP_TYPE")},
+            {"sections", AsObject(document.content.sections)},
+            {"subdevices", AsObject(document.content.subdevices)},
+            {"links", AsObject(document.content.links)}};
+}
+
+DeviceDocument ParseDeviceDocument(const std::string& source, const std::string& bytes)
+{
+    const Reader reader(source);
+    reader.Require(bytes.size() <= LongestDocument, {}, "this is longer than any log device");
+    const Json root = reader.Parse(bytes);
+    RequireFormat(reader, root);
+    DeviceDocument document{reader.Text(reader.Member(root, "name"), "name"), {}};
+    document.content.attributes = {
+        {"DeviceID", reader.Text(reader.Member(root, "board"), "board")},
+        {"CP_TYPE", reader.Text(reader.Member(root, "protocol"), "protocol")},
+    };
+    document.content.sections = reader.Groups(root, "sections");
+    document.content.subdevices = reader.Groups(root, "subdevices");
+    document.content.links = reader.Groups(root, "links");
+    RequireLinks(reader, document.content.links);
+    return document;
+}
+
+} // namespace norvctl
