@@ -200,7 +200,7 @@ static int await_announcement(HANDLE event, const struct change* change)
 {
     enum
     {
-        PATIENCE = 5000 /* milliseconds */
+        PATIENCE = 2000 /* milliseconds */
     };
 
     if (WaitForSingleObject(event, PATIENCE) != WAIT_OBJECT_0)

@@ -78,7 +78,7 @@ void Edit(const norvepa::LogDevice& device, Words changes)
 // A watch hears what this process changes, on whatever thread, and a moment later.
 void WatchAChange(const norvepa::LogDevice& device, const std::wstring& parameter, const std::wstring& value)
 {
-    constexpr std::chrono::seconds patience{5};
+    constexpr std::chrono::seconds patience{2};
 
     const norvepa::Watch watch = norvepa::Watch::Of(norvepa::Folder::LogDevices, device.name()).value();
     device.Set(parameter, value).value();
