@@ -1,7 +1,7 @@
 #pragma once
 
-// The examples as whoever tries them has them: run on a copy of the sample store, by their exit statuses and what
-// they print.
+// The examples as whoever tries them has them: run on a copy of the sample store, by their exit statuses and
+// what they print.
 
 #include "support/Norvctl.h"
 
