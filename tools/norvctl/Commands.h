@@ -10,6 +10,9 @@
 namespace norvctl
 {
 
+// Makes an empty parser norvctl's. The report, which the options --json and --headings change, must outlive it.
+void AddCommands(CLI::App& app, Report& report);
+
 void AddDeviceCommands(CLI::App& app, const Report& report); // device list, show, get, set, unset
 void AddNameCommands(CLI::App& app, const Report& report);   // name list, show, create, delete, get, set,
                                                              // unset, link, unlink
@@ -23,6 +26,10 @@ void AddWatchCommand(CLI::App& app, const Report& report);     // watch
 void AddTraceCommands(CLI::App& app, const Report& report);    // trace status, on, off
 void AddVersionCommand(CLI::App& app, const Report& report);   // version
 void AddDoctorCommand(CLI::App& app, const Report& report);    // doctor
+void AddCompletionCommands(CLI::App& app);                     // completion, complete
+void AddReferenceCommand(CLI::App& app);                       // reference
+void AddStoreCommands(CLI::App& app, const Report& report);    // store backup, restore
+void AddReportCommand(CLI::App& app, const Report& report);    // report
 
 // Verbs that have a file beside their noun's.
 void AddDeviceLifeCommands(CLI::App& device, const Report& report); // device create, copy, delete

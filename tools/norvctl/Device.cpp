@@ -25,6 +25,11 @@ std::wstring FileOfDevice(const std::string& device)
     return name.substr(0, lower.find(L"\\subdevices\\"));
 }
 
+bool IsSubdevice(const std::string& device)
+{
+    return FileOfDevice(device).size() != ToWide(device).size();
+}
+
 bool IsDeviceThere(const std::string& device)
 {
     return LogDeviceExistBL(ToWide(device).c_str(), 0) == PGSP_OK;
@@ -51,6 +56,17 @@ std::vector<NameAndValue> ValuesOfDevice(const std::string& device)
                                       wchar_t* value, uint32_t* valueLength) {
         return LogDeviceGetEnumValueBL(name.c_str(), index, parameter, parameterLength, value, valueLength);
     });
+}
+
+std::vector<std::string> TemporaryDevices()
+{
+    std::vector<std::string> names = ReadTexts("the log devices", [](wchar_t* list, uint32_t* length) {
+        return PGSP_GetLogDeviceListBL(list, length);
+    });
+    const std::string prefix = ToUtf8(TemporaryPrefix);
+    std::erase_if(names, [&](const std::string& name) { return !name.starts_with(prefix); });
+    std::sort(names.begin(), names.end());
+    return names;
 }
 
 void AnswerDone(const Report& report, const char* what, const std::string& device,

@@ -24,6 +24,9 @@ inline constexpr std::wstring_view TemporaryPrefix = L"PGSP_TEMP_LOG_DEVICE____"
 // The file that a change of this name changes: a subdevice stands in that of its device.
 [[nodiscard]] std::wstring FileOfDevice(const std::string& device);
 
+// True for DEVICE\subdevices\SUB.
+[[nodiscard]] bool IsSubdevice(const std::string& device);
+
 [[nodiscard]] bool IsDeviceThere(const std::string& device);
 
 // Throws unless it is there and may be asked for.
@@ -34,6 +37,9 @@ void RequireDevice(const std::string& device);
 
 // All values, in the order of its file.
 [[nodiscard]] std::vector<NameAndValue> ValuesOfDevice(const std::string& device);
+
+// The temporary log devices of all users, in the order of their numbers.
+[[nodiscard]] std::vector<std::string> TemporaryDevices();
 
 // What has been done to a value of a log device.
 void AnswerDone(const Report& report, const char* what, const std::string& device,

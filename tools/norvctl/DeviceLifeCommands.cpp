@@ -103,7 +103,9 @@ void AddDeviceLifeCommands(CLI::App& device, const Report& report)
 
     CLI::App* const create = device.add_subcommand("create", "make one from a template");
     create->add_option("DEVICE", arguments->device, "the new log device")->required();
-    create->add_option("--from", arguments->source, "the template, as template list tells it")->required();
+    create->add_option("--from", arguments->source, "the template, as template list tells it")
+        ->required()
+        ->type_name("TEMPLATE");
     create->callback([=, &report] { Create(report, *arguments); });
 
     CLI::App* const copy =

@@ -57,7 +57,7 @@ void AddSettingsCommands(CLI::App& app, const Report& report)
     const auto arguments = std::make_shared<Arguments>();
     const auto addVerb = [&](const char* verb, const char* help, auto action) {
         CLI::App* const command = settings->add_subcommand(verb, help);
-        command->add_option("NAME", arguments->name, "the setting")->required();
+        command->add_option("SETTING", arguments->name, "the setting")->required();
         command->callback([=, &report] { action(report, *arguments); });
         return command;
     };

@@ -39,7 +39,9 @@ void AddOn(CLI::App& trace, const Report& report)
     on->add_option("--output", settings->output, "where the lines go")
         ->check(CLI::IsMember({"FILE", "SM", "DBG", "VXD", "NorvTRACEENGINE"}))
         ->capture_default_str();
-    on->add_option("--folder", settings->folder, "FILE: the folder of the two files")->capture_default_str();
+    on->add_option("--folder", settings->folder, "FILE: the folder of the two files")
+        ->type_name("PATH")
+        ->capture_default_str();
     on->add_option("--file", settings->file, "FILE: their name, to which 1.TRC and 2.TRC are added")
         ->capture_default_str();
     on->callback([=, &report] {

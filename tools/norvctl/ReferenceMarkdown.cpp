@@ -1,0 +1,129 @@
+#include "CommandTree.h"
+#include "ExitStatus.h"
+#include "Reference.h"
+#include "ReferenceTexts.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+
+namespace norvctl
+{
+
+namespace
+{
+
+std::string Code(std::string_view text)
+{
+    return fmt::format("`{}`", text);
+}
+
+// What would be markup in a line of text.
+std::string Escaped(std::string_view text)
+{
+    std::string escaped;
+    for (const char c : text)
+    {
+        if (std::string_view("\\<>*_|`[]").find(c) != std::string_view::npos)
+        {
+            escaped += '\\';
+        }
+        escaped += c;
+    }
+    return escaped;
+}
+
+std::string AsSentence(std::string text)
+{
+    if (!text.empty() && text[0] >= 'a' && text[0] <= 'z')
+    {
+        text[0] = static_cast<char>(text[0] - 'a' + 'A');
+    }
+    return Escaped(text) + '.';
+}
+
+// GitHub's anchor of a heading.
+std::string AnchorOf(const CLI::App& verb)
+{
+    std::string anchor = PathOf(verb);
+    std::replace(anchor.begin(), anchor.end(), ' ', '-');
+    return anchor;
+}
+
+std::string ListOf(const OptionList& options)
+{
+    std::string list;
+    for (const CLI::Option* option : options)
+    {
+        const bool isOfAll = !option->get_snames().empty();
+        list += fmt::format("- {}: {}\n", Code(isOfAll ? NamesOf(*option) : UsageOf(*option)),
+                            Escaped(DescriptionOf(*option)));
+    }
+    return list.empty() ? "" : '\n' + list;
+}
+
+std::string CodeBlock(const std::vector<std::string>& lines)
+{
+    return lines.empty() ? "" : fmt::format("\n```\n{}\n```\n", fmt::join(lines, "\n"));
+}
+
+std::string VerbText(const CLI::App& verb)
+{
+    return fmt::format("\n### {}\n\n{}\n", PathOf(verb), AsSentence(verb.get_description())) +
+           CodeBlock({UsageOf(verb)}) + ListOf(ArgumentsOf(verb)) + ListOf(OptionsOf(verb)) +
+           (ExamplesOf(verb).empty() ? "" : "\nFor example:\n") + CodeBlock(ExamplesOf(verb));
+}
+
+std::string TableOfVerbs(const CLI::App& root)
+{
+    std::string table = "\n| Command | What it does |\n|---|---|\n";
+    for (const CLI::App* verb : VerbsOf(root))
+    {
+        table += fmt::format("| [{}](#{}) | {} |\n", PathOf(*verb), AnchorOf(*verb),
+                             Escaped(verb->get_description()));
+    }
+    return table;
+}
+
+std::string ListOfStatuses()
+{
+    std::string list = "\n";
+    for (const ExitStatus& status : ExitStatuses)
+    {
+        list += fmt::format("- {}: {}\n", Code(std::to_string(status.status)), status.meaning);
+    }
+    return list;
+}
+
+std::string ListOfFiles()
+{
+    std::string list = "\n";
+    for (const NamedText& file : FilesOfNorvctl)
+    {
+        list += fmt::format("- {}: {}\n", Code(file.name), Escaped(file.text));
+    }
+    return list;
+}
+
+} // namespace
+
+std::string MarkdownReference(const CLI::App& root)
+{
+    std::string text = fmt::format("# {}\n\n{}\n", PathOf(root), AsSentence(root.get_description()));
+    for (const std::string_view paragraph : AboutNorvctl)
+    {
+        text += '\n' + Escaped(paragraph) + '\n';
+    }
+    text += CodeBlock({UsageOf(root)});
+    text += "\nOptions of every command:\n" + ListOf(OptionsOfAll(root));
+    text += "\n## Commands\n" + TableOfVerbs(root);
+    for (const CLI::App* verb : VerbsOf(root))
+    {
+        text += VerbText(*verb);
+    }
+    text += "\n## Exit status\n" + ListOfStatuses();
+    text += "\n## Files\n" + ListOfFiles();
+    text += "\n## Examples\n" + CodeBlock(ExamplesOf(root));
+    return text;
+}
+
+} // namespace norvctl
