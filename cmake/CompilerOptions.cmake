@@ -6,9 +6,8 @@ set(CMAKE_C_STANDARD 99)
 set(CMAKE_C_EXTENSIONS OFF)
 
 # Each compiler's own file gives these targets their options. It also says how what isn't to take long is built
-# (NORV_UNOPTIMISED, NORV_LIGHTLY_OPTIMISED), how a program is linked whose main function takes wide characters
-# (NORV_WIDE_MAIN), and how a library is shipped whose symbols lie beside it (norv_symbols_beside(LIBRARY INSIDE),
-# of which INSIDE are the objects).
+# (NORV_UNOPTIMISED, NORV_LIGHTLY_OPTIMISED), and how a library is shipped whose symbols lie beside it
+# (norv_symbols_beside(LIBRARY INSIDE), of which INSIDE are the objects).
 add_library(norv_options INTERFACE)
 target_compile_definitions(norv_options INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX
                            WINVER=0x0601 _WIN32_WINNT=0x0601)

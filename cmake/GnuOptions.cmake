@@ -1,7 +1,6 @@
 # GCC and clang, with MinGW-w64.
 set(NORV_UNOPTIMISED -O0)
 set(NORV_LIGHTLY_OPTIMISED $<$<NOT:$<CONFIG:Debug>>:-O1>)
-set(NORV_WIDE_MAIN -municode)
 
 target_compile_options(norv_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 # GCC 12 sees overlaps in std::string's own operators where there are none.

@@ -5,7 +5,6 @@ endfunction()
 
 set(NORV_UNOPTIMISED "") # it is fast enough, and tells of each option that takes back another
 set(NORV_LIGHTLY_OPTIMISED "")
-set(NORV_WIDE_MAIN "")
 
 # No run-time library beside the binaries: they go into other makers' processes.
 set(CMAKE_MSVC_RUNTIME_LIBRARY MultiThreaded$<$<CONFIG:Debug>:Debug>)

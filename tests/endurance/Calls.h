@@ -59,7 +59,7 @@ struct Names
 {
     static std::tuple<const wchar_t*, Length> From(Draw& any)
     {
-        constexpr Length least = std::is_signed_v<Length> ? -1 : 0;
+        constexpr Length least = std::is_signed_v<Length> ? static_cast<Length>(-1) : Length{0};
         constexpr Length most = static_cast<Length>(NameList.size()) + 1;
         const auto length = static_cast<Length>(any.Below(static_cast<std::uint32_t>(most - least) + 1));
         return {any.Below(10) == 0 ? nullptr : NameList.data(), static_cast<Length>(length + least)};

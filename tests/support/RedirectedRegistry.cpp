@@ -84,7 +84,8 @@ void DeleteMachineValue(const std::wstring& key, const std::wstring& name)
 
 void DeleteMachineKey(const std::wstring& key)
 {
-    Require(SHDeleteKeyW(HKEY_LOCAL_MACHINE, key.c_str()), "SHDeleteKeyW");
+    // MinGW-w64 declares its status as a DWORD.
+    Require(static_cast<LSTATUS>(SHDeleteKeyW(HKEY_LOCAL_MACHINE, key.c_str())), "SHDeleteKeyW");
 }
 
 } // namespace norvepa::test
