@@ -33,6 +33,14 @@ Function ${UN}TakeAway
 FunctionEnd
 !macroend
 
+; What was held once, and may be free by now.
+!macro RemoveWhatWasHeld
+  Delete "$INSTDIR\bin\*.old"
+  ${If} ${FileExists} "$INSTDIR\bin\*.old"
+    StrCpy $Held 1
+  ${EndIf}
+!macroend
+
 !define RESTART_REQUIRED 3010
 
 !macro EndAndTellWhatIsHeld

@@ -111,8 +111,6 @@ Section "Library, norvctl and store" SecProgram
 SectionEnd
 
 Section "For developers: headers, import libraries, examples" SecDevelopment
-  SetOutPath "$INSTDIR\bin"
-  File "${TREE}\bin\*.debug"
   SetOutPath "$INSTDIR"
   File /r "${TREE}\include"
   File /r "${TREE}\lib"
@@ -216,6 +214,7 @@ Section "un.${PRODUCT}" SecRemoval
   !insertmacro TakeAway "$INSTDIR\bin\NorvepaBl64x.dll"
   !insertmacro TakeAway "$INSTDIR\bin\norvctl.exe"
   !include "${FILES}"
+  !insertmacro RemoveWhatWasHeld
   ${IfNot} $IsUpgrade = 1
     Delete "$INSTDIR\uninstall.exe"
     Delete "$INSTDIR\install.log"
