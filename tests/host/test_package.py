@@ -216,7 +216,9 @@ def registry(key):
 
 
 def search_path():
-    return registry(SESSION_KEY + r"\Environment")["Path"].split(";")
+    """Its value is spelled in more ways than one."""
+    values = registry(SESSION_KEY + r"\Environment")
+    return next(value for name, value in values.items() if name.upper() == "PATH").split(";")
 
 
 def install(*options):
