@@ -161,7 +161,7 @@ TEST_F(QuestionPath, IsNotCutWhenItIsTooLong)
         SCOPED_TRACE(place.question.name);
         place.Write(place.NameOf(255) + L".xml");
 
-        for (const std::size_t length : {256, 260, 300, 5000})
+        for (const std::size_t length : {256U, 260U, 300U, 5000U})
         {
             EXPECT_NE(place.Ask(place.NameOf(length)), PGSP_OK) << length;
         }
