@@ -34,9 +34,9 @@ FunctionEnd
 !macroend
 
 ; What was held once, and may be free by now.
-!macro RemoveWhatWasHeld
-  Delete "$INSTDIR\bin\*.old"
-  ${If} ${FileExists} "$INSTDIR\bin\*.old"
+!macro RemoveWhatWasHeld FILE
+  Delete "${FILE}.*.old"
+  ${If} ${FileExists} "${FILE}.*.old"
     StrCpy $Held 1
   ${EndIf}
 !macroend

@@ -48,11 +48,11 @@ FunctionEnd
 
 Function AddToSearchPath
   Call ReadSearchPath
-  ${If} $R1 = 0
+  ${If} $R1 == 0
     ${Tell} "Error: the search path can't be read"
     Return
   ${EndIf}
-  ${If} $R3 = 0
+  ${If} $R3 == 0
     System::Call 'kernel32::lstrcatW(p R1, w "$R0;")'
     Call WriteSearchPath
   ${EndIf}
@@ -61,10 +61,10 @@ FunctionEnd
 
 Function un.RemoveFromSearchPath
   Call un.ReadSearchPath
-  ${If} $R1 = 0
+  ${If} $R1 == 0
     Return
   ${EndIf}
-  ${If} $R3 <> 0
+  ${If} $R3 != 0
     StrLen $0 $R0
     IntOp $0 $0 + 1
     IntOp $0 $0 * 2

@@ -214,7 +214,8 @@ Section "un.${PRODUCT}" SecRemoval
   !insertmacro TakeAway "$INSTDIR\bin\NorvepaBl64x.dll"
   !insertmacro TakeAway "$INSTDIR\bin\norvctl.exe"
   !include "${FILES}"
-  !insertmacro RemoveWhatWasHeld
+  !insertmacro RemoveWhatWasHeld "$INSTDIR\bin\NorvepaBl64x.dll"
+  !insertmacro RemoveWhatWasHeld "$INSTDIR\bin\norvctl.exe"
   ${IfNot} $IsUpgrade = 1
     Delete "$INSTDIR\uninstall.exe"
     Delete "$INSTDIR\install.log"
@@ -230,7 +231,8 @@ SectionEnd
 Section "-un.traces"
   ReadRegStr $R0 HKLM "${OWN_KEY}" "OnSearchPath"
   ${If} $R0 != ""
-    Call un.RemoveFromSearchPath ; the next version may go elsewhere, and puts it there again
+    Call un.RemoveFromSearchPath ; the next version may lie elsewhere, and puts itself there again
+    DeleteRegValue HKLM "${OWN_KEY}" "OnSearchPath"
   ${EndIf}
   ${If} $IsUpgrade = 1
     Goto done
@@ -252,6 +254,9 @@ SectionEnd
 Section /o "un.The stored configuration" SecPurge
   ${If} $DataRoot != ""
     RMDir /r "$DataRoot"
+    ${If} ${FileExists} "$DataRoot\*.*"
+      ${Tell} "Error: it can't be removed: $DataRoot"
+    ${EndIf}
     !insertmacro RemoveEmptyRoot "$DataRoot"
   ${Else}
     ${Tell} "The stored configuration stays: it is where the registry says, and that wasn't written by the installer"
