@@ -42,11 +42,11 @@ class NorvctlConsole(unittest.TestCase):
         self.assertEqual((end.returncode, end.stdout), (1, ""))
         self.assertRegex(end.stderr, r"^norvctl: Käse.*\(\d+ PGSP_\w+\)")
 
-    def test_ends_with_1_for_a_command_line_that_is_none(self):
+    def test_ends_with_2_for_a_command_line_that_is_none(self):
         end = norv.norvctl("name", "nix")
 
-        self.assertEqual((end.returncode, end.stdout), (1, ""))
-        self.assertIn("Run with --help", end.stderr)
+        self.assertEqual((end.returncode, end.stdout), (2, ""))
+        self.assertIn("\nRun norvctl name --help\n", end.stderr)
 
 
 class NorvctlWithoutStore(unittest.TestCase):

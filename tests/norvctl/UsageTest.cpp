@@ -10,6 +10,7 @@ namespace
 
 using nlohmann::json;
 using testing::AllOf;
+using testing::EndsWith;
 using testing::HasSubstr;
 
 // What a command line that isn't one is answered with.
@@ -29,23 +30,24 @@ class NorvctlMisuse : public testing::TestWithParam<Misuse>
 {
 };
 
-TEST_P(NorvctlMisuse, EndsWithOneAndSaysWhyOnStandardError)
+TEST_P(NorvctlMisuse, EndsWithTwoAndSaysWhyOnStandardError)
 {
     const ProgramEnd end = RunNorvctl(GetParam().arguments);
 
-    EXPECT_EQ(end.exitCode, 1U);
+    EXPECT_EQ(end.exitCode, 2U);
     EXPECT_EQ(end.output, "");
-    EXPECT_THAT(end.error, AllOf(HasSubstr(GetParam().answer), HasSubstr("Run with --help")));
+    EXPECT_THAT(end.error,
+                AllOf(HasSubstr(GetParam().answer), HasSubstr("\nRun norvctl "), EndsWith(" --help\n")));
 }
 
 INSTANTIATE_TEST_SUITE_P(
     CommandLines, NorvctlMisuse,
     testing::Values(
-        Misuse{"Nothing", {}, "A subcommand is required"},
-        Misuse{"UnknownNoun", {L"nix"}, "subcommand is required"},
-        Misuse{"NounAlone", {L"name"}, "A subcommand is required"},
-        Misuse{"UnknownVerb", {L"name", L"nix"}, "subcommand is required"},
-        Misuse{"TraceAlone", {L"trace"}, "A subcommand is required"},
+        Misuse{"Nothing", {}, "a command is missing"},
+        Misuse{"UnknownNoun", {L"nix"}, "norvctl: no such command: nix"},
+        Misuse{"NounAlone", {L"name"}, "a command is missing"},
+        Misuse{"UnknownVerb", {L"name", L"nix"}, "norvctl: no such command: name nix"},
+        Misuse{"TraceAlone", {L"trace"}, "a command is missing"},
         Misuse{"ShowWithoutName", {L"name", L"show"}, "NAME is required"},
         Misuse{"CreateWithoutName", {L"name", L"create"}, "NAME is required"},
         Misuse{"DeleteWithoutName", {L"name", L"delete"}, "NAME is required"},
@@ -56,7 +58,7 @@ INSTANTIATE_TEST_SUITE_P(
         Misuse{"UnsetWithoutParameter", {L"name", L"unset", L"a"}, "PARAMETER is required"},
         Misuse{"CreateDeviceFromNothing", {L"device", L"create", L"a"}, "--from is required"},
         Misuse{"CopyDeviceToNothing", {L"device", L"copy", L"a"}, "TO is required"},
-        Misuse{"EditAlone", {L"device", L"edit"}, "A subcommand is required"},
+        Misuse{"EditAlone", {L"device", L"edit"}, "a command is missing"},
         Misuse{"EditNothing", {L"device", L"edit", L"begin"}, "DEVICE"},
         Misuse{"EditTwo", {L"device", L"edit", L"begin", L"a", L"--from", L"b"}, "DEVICE"},
         Misuse{"ApplyToNothing",
@@ -68,7 +70,7 @@ INSTANTIATE_TEST_SUITE_P(
         Misuse{"ApplyATemporaryToItself",
                {L"device", L"edit", L"apply", L"PGSP_TEMP_LOG_DEVICE____000", L"pgsp_temp_log_device____000"},
                "this is not a log device that can be replaced"},
-        Misuse{"NdiAlone", {L"device", L"ndi"}, "A subcommand is required"},
+        Misuse{"NdiAlone", {L"device", L"ndi"}, "a command is missing"},
         Misuse{"NdiSetWithoutValue", {L"device", L"ndi", L"set", L"a", L"b"}, "VALUE is required"},
         Misuse{"TextOfNothing", {L"device", L"text", L"a"}, "TEXT is required"},
         Misuse{"TextInALongLanguage",
@@ -84,7 +86,7 @@ INSTANTIATE_TEST_SUITE_P(
         Misuse{"XmlOfNoBoard", {L"board", L"xml"}, "BOARD is required"},
         Misuse{"XmlOfNoTemplate", {L"template", L"xml"}, "TEMPLATE is required"},
         Misuse{"XmlOfNoProtocol", {L"protocol", L"xml"}, "PROTOCOL is required"},
-        Misuse{"TemplateAlone", {L"template"}, "A subcommand is required"},
+        Misuse{"TemplateAlone", {L"template"}, "a command is missing"},
         Misuse{"BusparamsWithoutSpeed", {L"device", L"busparams", L"a"}, "BAUD is required"},
         Misuse{"ProfileOfNothing", {L"device", L"profile"}, "DEVICE is required"},
         Misuse{"ChoicesForNothing", {L"device", L"choices", L"a"}, "PARAMETER is required"},
@@ -93,21 +95,25 @@ INSTANTIATE_TEST_SUITE_P(
         Misuse{"TemplateGetOfBothSections",
                {L"template", L"get", L"a", L"b", L"--section", L"Ndi", L"--32"},
                "--section excludes --32"},
-        Misuse{"SettingsAlone", {L"settings"}, "A subcommand is required"},
+        Misuse{"SettingsAlone", {L"settings"}, "a command is missing"},
         Misuse{"SettingsSetWithoutValue", {L"settings", L"set", L"a"}, "VALUE is required"},
-        Misuse{"DataAlone", {L"data"}, "A subcommand is required"},
+        Misuse{"DataAlone", {L"data"}, "a command is missing"},
         Misuse{"DataGetWithoutParameter", {L"data", L"get", L"a"}, "PARAMETER is required"},
-        Misuse{
-            "DataSetOfUnknownType", {L"data", L"set", L"a", L"b", L"c", L"--type", L"float"}, "float not in"},
+        Misuse{"DataSetOfUnknownType",
+               {L"data", L"set", L"a", L"b", L"c", L"--type", L"float"},
+               "no such --type: float; allowed are "},
         Misuse{
             "DataSetInAnotherFolder", {L"data", L"set", L"a", L"b", L"c", L"--folder", L"meta"}, "--folder"},
-        Misuse{"WatchWithoutFolder", {L"watch"}, "FOLDER is required"},
-        Misuse{"WatchOfUnknownFolder", {L"watch", L"Foo"}, "Foo not in"},
+        Misuse{"WatchOfUnknownFolder", {L"watch", L"Foo"}, "no such FOLDER: Foo; allowed are "},
         Misuse{"WatchWithoutNumber", {L"watch", L"meta", L"--timeout", L"x"}, "--timeout"},
         Misuse{"WatchForTooLong", {L"watch", L"meta", L"--timeout", L"1e12"}, "not in range"},
         Misuse{"WatchForNegativeTime", {L"watch", L"meta", L"--timeout", L"-1"}, "not in range"},
-        Misuse{"TraceInUnknownFormat", {L"trace", L"on", L"--format", L"LOUD"}, "LOUD not in"},
-        Misuse{"TraceToUnknownOutput", {L"trace", L"on", L"--output", L"PIPE"}, "PIPE not in"}),
+        Misuse{"TraceInUnknownFormat",
+               {L"trace", L"on", L"--format", L"LOUD"},
+               "no such --format: LOUD; allowed are "},
+        Misuse{"TraceToUnknownOutput",
+               {L"trace", L"on", L"--output", L"PIPE"},
+               "no such --output: PIPE; allowed are "}),
     [](const auto& misuse) { return misuse.param.name; });
 
 TEST(NorvctlVersion, NamesTheLibraryAndItsVersion)

@@ -11,6 +11,12 @@ namespace norvctl
 namespace
 {
 
+// A negative number is none.
+bool IsOption(const std::string& word)
+{
+    return word.size() > 1 && word[0] == '-' && (word[1] < '0' || word[1] > '9');
+}
+
 // All by which it can be called.
 bool IsCalled(const CLI::Option& option, const std::string& word)
 {
@@ -36,7 +42,7 @@ public:
         {
             TakeValue(*std::exchange(m_line.open, nullptr), word);
         }
-        else if (m_line.isPlain || word.size() < 2 || word[0] != '-')
+        else if (m_line.isPlain || !IsOption(word))
         {
             TakeWord(word);
         }

@@ -68,14 +68,16 @@ std::string Examples(const CLI::App& command)
     return text;
 }
 
-std::string WhereToReadOn(const CLI::App& command)
+std::string WhereToReadOn(const CLI::App& command, std::size_t width)
 {
     if (CommandsOf(command).empty())
     {
         return "";
     }
     const std::string more = command.get_parent() == nullptr ? ", of all: norvctl reference" : "";
-    return fmt::format("\nMore of a command: {} COMMAND --help{}\n", PathOf(command), more);
+    return '\n' +
+           Wrapped(fmt::format("More of a command: {} COMMAND --help{}", PathOf(command), more), width, 2) +
+           '\n';
 }
 
 } // namespace
@@ -93,7 +95,7 @@ std::string HelpOf(const CLI::App& command, std::size_t width)
     {
         text += Section("Exit status", ExitStatusDefinitions(), columns);
     }
-    return text + Examples(command) + WhereToReadOn(command);
+    return text + Examples(command) + WhereToReadOn(command, columns);
 }
 
 void UseHelp(CLI::App& app)

@@ -20,7 +20,8 @@ inline constexpr std::array<std::string_view, 4> AboutNorvctl{
     "as every other client of it. What it changes is announced to all that watch.",
     "A command line names a noun and a verb, arguments by their position, and options, which may stand "
     "anywhere. "
-    "Behind -- nothing is an option: a value that begins with a hyphen goes there. Commands and options are "
+    "Behind -- nothing is an option: a value that begins with a hyphen and is no number goes there. Commands "
+    "and options are "
     "case-sensitive; the names of the store aren't.",
     "An answer goes to standard output, as UTF-8, or to a console as it shows it. With --json it is one JSON "
     "document. Why something wasn't done stands on standard error, with the library's code and its name.",
