@@ -244,6 +244,10 @@ FileValues TransferredPart(const FileValues& file)
     {
         std::erase_if(section.values, [](const NameAndValue& link) { return !IsTransferredLink(link); });
     }
+    // Links stand there, and no value of theirs can be set.
+    std::erase_if(part.sections, [](const ValueGroup& section) {
+        return section.name == "UserInterface" || section.name == "UserInterface64";
+    });
     const auto isEmpty = [](const ValueGroup& group) { return group.values.empty(); };
     std::erase_if(part.links, isEmpty);
     std::erase_if(part.sections, isEmpty);

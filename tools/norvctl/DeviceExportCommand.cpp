@@ -29,9 +29,10 @@ void AddDeviceExportCommand(CLI::App& device)
 {
     const auto name = std::make_shared<std::string>();
     CLI::App* const command = device.add_subcommand(
-        "export", "print one as a JSON document, which device import puts back. Not carried are the types of "
-                  "values, what the driver loads, lists and constraints, further attributes, and links but "
-                  "DescDefault, DescText, PropSheet and Diagnosis");
+        "export",
+        "print one as a JSON document, which device import puts back. Not carried are the types of "
+        "values, what the driver loads, lists and constraints, further attributes, and of the links "
+        "and what stands with them all but DescDefault, DescText, PropSheet and Diagnosis");
     command->add_option("DEVICE", *name, "the log device")->required();
     command->callback([=] { Export(*name); });
     ShowExample(*command, "norvctl device export Kesselhaus > kesselhaus.json");

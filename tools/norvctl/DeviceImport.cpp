@@ -17,6 +17,7 @@ namespace
 {
 
 constexpr char NdiSection[] = "Ndi";
+constexpr char SpareSection[] = "SpareSection";
 constexpr char LinksOf32[] = "UserInterface";
 
 bool IsSameBoard(const Difference& difference)
@@ -65,12 +66,46 @@ private:
             // To the library the new value is the old one: another has to come in between.
             static_cast<void>(Offer(difference, parameter, *difference.change.after + "_"));
         }
-        const int32_t result = Offer(difference, parameter, *difference.change.after);
+        int32_t result = Offer(difference, parameter, *difference.change.after);
+        if (result == PGSP_OK && IsSpareAndAsBefore(difference))
+        {
+            result = ReplaceSpare(difference);
+        }
         if (result == PGSP_OK)
         {
             return std::nullopt;
         }
-        return ImportRefusal{difference, result, AllowedValues(ToWide(m_device), ToWide(parameter), result)};
+        const bool hasNoPlace = difference.kind == GroupKind::Subdevice && result == PGSP_ERR_CANT_SET_VALUE;
+        return ImportRefusal{difference, result,
+                             hasNoPlace ? "there is no such subdevice, and none can be made"
+                                        : AllowedValues(ToWide(m_device), ToWide(parameter), result)};
+    }
+
+    // The library doesn't look there for a number's type: it has made a text of the same name behind it.
+    [[nodiscard]] bool IsSpareAndAsBefore(const Difference& difference) const
+    {
+        return difference.kind == GroupKind::Section && difference.group == SpareSection &&
+               difference.change.before && SpareValue(difference.change.name) == difference.change.before;
+    }
+
+    [[nodiscard]] std::optional<std::string> SpareValue(const std::string& name) const
+    {
+        const std::wstring device = ToWide(m_device);
+        const std::wstring parameter = ToWide(name);
+        const ReadResult read = ReadText([&](wchar_t* value, uint32_t* length) {
+            return LogDeviceGetValueExBL(device.c_str(), ToWide(SpareSection).c_str(), parameter.c_str(),
+                                         value, length);
+        });
+        return read.result == PGSP_OK ? std::optional(read.value) : std::nullopt;
+    }
+
+    [[nodiscard]] int32_t ReplaceSpare(const Difference& difference) const
+    {
+        const int32_t result =
+            LogDeviceDelValueBL(ToWide(m_device).c_str(), ToWide(difference.change.name).c_str());
+        return result == PGSP_OK && !SpareValue(difference.change.name)
+                   ? Offer(difference, difference.change.name, *difference.change.after)
+                   : result;
     }
 
     [[nodiscard]] int32_t Offer(const Difference& difference, const std::string& parameter,

@@ -151,8 +151,8 @@ Json AsArray(const std::vector<ImportRefusal>& refused)
     {
         std::cerr << "norvctl: " << WordsFor(arguments, refusal) << '\n';
     }
-    std::cerr << fmt::format("norvctl: {} is as it was: {} of the document's values can't be had\n",
-                             arguments.device, refused.size());
+    std::cerr << fmt::format("norvctl: nothing has been imported: {} of the document's values can't be had\n",
+                             refused.size());
     if (report.json)
     {
         report.Answer("", {{"done", "refused"}, {"device", arguments.device}, {"refused", AsArray(refused)}});
@@ -243,7 +243,8 @@ void AddDeviceImportCommand(CLI::App& device, const Report& report)
     const auto arguments = std::make_shared<Arguments>();
     CLI::App* const import = device.add_subcommand(
         "import", "make one what a document of device export says: all of it or nothing. Values that the "
-                  "document doesn't have are removed. Order, types and what isn't carried stay as they are");
+                  "document doesn't have are removed. Order, types and what isn't carried stay as they are, "
+                  "but that a number of SpareSection becomes a text when it changes");
     import->add_option("DEVICE", arguments->device, "the log device, which need not be there")
         ->required()
         ->check(RefusePart);
