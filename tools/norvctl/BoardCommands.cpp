@@ -40,7 +40,7 @@ std::vector<NameAndValue> Enumerate(const std::string& board)
 
 void List(const Report& report)
 {
-    std::vector<std::string> lines;
+    Table table({{"BOARD", 16}, {"PROTOCOL", 10}, {"NAME", 0}});
     Json document = Json::array();
     const auto boards = EnumerateTexts("the boards", [](uint32_t index, wchar_t* name, uint32_t* length) {
         return PGSP_TemplateGetEnumNoPrefixBL(L"Boards", index, name, length);
@@ -49,19 +49,22 @@ void List(const Report& report)
     {
         const std::string type = Read(board, L"CP_TYPE").value;
         const std::string name = Read(board, L"Name").value;
-        lines.push_back(fmt::format("{:<16} {:<10} {}", board, type, name));
+        table.Add({board, type, name});
         document.push_back({{"deviceId", board}, {"type", type}, {"name", name}});
     }
-    report.Answer(AsLines(lines), document);
+    report.Answer(table, document);
 }
 
 void Show(const Report& report, const Arguments& arguments)
 {
     const auto values = Enumerate(arguments.board);
     const auto defaults = Enumerate(arguments.board + "\\ConstraintsWithDefault");
-    const std::string text = defaults.empty() ? AsLines(values)
-                                              : fmt::format("{}\n\ndefaults of parameters\n{}",
-                                                            AsLines(values), AsLines(defaults));
+    const TableForm form = report.Form();
+    std::string text = AsTable(values).AsText(form);
+    if (!defaults.empty())
+    {
+        text += "\n\ndefaults of parameters\n" + AsTable(defaults).AsText(form);
+    }
     report.Answer(
         text, {{"board", arguments.board}, {"values", AsObject(values)}, {"defaults", AsObject(defaults)}});
 }
@@ -80,7 +83,7 @@ void Values(const Report& report, const Arguments& arguments)
     {
         static_cast<void>(Enumerate(arguments.board)); // the list of a board that isn't there is empty, too
     }
-    report.Answer(AsLines(values),
+    report.Answer(AsTable("VALUE", values),
                   {{"board", arguments.board}, {"collection", arguments.collection}, {"values", values}});
 }
 

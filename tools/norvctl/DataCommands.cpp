@@ -50,7 +50,7 @@ std::vector<NameAndValue> ValuesOf(const Arguments& arguments, const std::string
 void List(const Report& report, const Arguments& arguments)
 {
     const auto values = ValuesOf(arguments, arguments.folder);
-    report.Answer(AsLines(values), {{"file", arguments.file}, {"values", AsObject(values)}});
+    report.Answer(AsTable(values), {{"file", arguments.file}, {"values", AsObject(values)}});
 }
 
 void Get(const Report& report, const Arguments& arguments)
@@ -104,7 +104,7 @@ void AddDataCommands(CLI::App& app, const Report& report)
     const auto arguments = std::make_shared<Arguments>();
     const auto addVerb = [&](const char* verb, const char* help, auto action) {
         CLI::App* const command = data->add_subcommand(verb, help);
-        command->add_option("FILE", arguments->file, "the file, without extension")->required();
+        command->add_option("DATAFILE", arguments->file, "the file, without extension")->required();
         command->add_option("--subfolder", arguments->subfolder, "the folder that it lies in");
         command->callback([=, &report] { action(report, *arguments); });
         return command;

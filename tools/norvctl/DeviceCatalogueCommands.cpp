@@ -1,3 +1,4 @@
+#include "Choices.h"
 #include "Commands.h"
 #include "Device.h"
 #include "Reads.h"
@@ -5,7 +6,6 @@
 #include "Text.h"
 #include "norvepa.h"
 
-#include <algorithm>
 #include <array>
 #include <memory>
 #include <string>
@@ -28,41 +28,12 @@ struct Arguments
     bool isAverage = false;
 };
 
-using ReadList = int32_t (*)(const wchar_t* device, const wchar_t* parameter, wchar_t* values,
-                             uint32_t* length);
-
-// The terminator behind the last value is written beyond the length, and never counted. A buffer that is too
-// short is told how much of it is in use, not how much is needed: it doubles until it will do.
-int32_t ReadMostSpecialized(const wchar_t* device, const wchar_t* parameter, wchar_t* values,
-                            uint32_t* length)
-{
-    const uint32_t capacity = *length;
-    *length = capacity - 1;
-    const int32_t result = PGSP_LogDeviceGetMostSpecializedEnumListBL(device, parameter, values, length);
-    *length = result == PGSP_ERR_BUFFER_TOO_SHORT ? 2 * capacity : *length + 1;
-    return result;
-}
-
-// The terminator behind the last value isn't counted, and may be all that has no room.
-int32_t ReadAverage(const wchar_t* device, const wchar_t* parameter, wchar_t* values, uint32_t* length)
-{
-    const uint32_t capacity = *length;
-    const int32_t result = PGSP_LogDeviceGetAverageEnumListBL(device, parameter, values, length);
-    *length = result == PGSP_ERR_BUFFER_TOO_SHORT ? std::max(*length, capacity) : *length + 1;
-    return result;
-}
-
 void Choices(const Report& report, const Arguments& arguments)
 {
     RequireDevice(arguments.device);
-    const std::wstring device = ToWide(arguments.device);
-    const std::wstring parameter = ToWide(arguments.parameter);
-    const ReadList read = arguments.isAverage ? &ReadAverage : &ReadMostSpecialized;
-    const auto values =
-        ReadTexts(DeviceSubject(arguments.device, arguments.parameter), [&](wchar_t* list, uint32_t* length) {
-            return read(device.c_str(), parameter.c_str(), list, length);
-        });
-    report.Answer(AsLines(values),
+    const auto choices = arguments.isAverage ? &CommonChoicesOf : &ChoicesOf;
+    const auto values = choices(arguments.device, arguments.parameter);
+    report.Answer(AsTable("VALUE", values),
                   {{"device", arguments.device}, {"parameter", arguments.parameter}, {"values", values}});
 }
 
@@ -80,7 +51,7 @@ void DescribeDevice(const Report& report, const Arguments& arguments)
         Require(read.result, DeviceSubject(arguments.device, attribute));
         values.push_back({attribute, read.value});
     }
-    report.Answer(AsLines(values), {{"device", arguments.device}, {"values", AsObject(values)}});
+    report.Answer(AsTable(values), {{"device", arguments.device}, {"values", AsObject(values)}});
 }
 
 // For a text of the board's that doesn't fit the protocol would answer.
@@ -113,7 +84,7 @@ void DescribeParameter(const Report& report, const Arguments& arguments)
         throw Failure(subject, PGSP_ERR_PARAM_DESC_NOT_FOUND);
     }
     report.Answer(
-        AsLines(words),
+        AsTable(words, "WORD"),
         {{"device", arguments.device}, {"parameter", arguments.parameter}, {"values", AsObject(words)}});
 }
 

@@ -4,6 +4,7 @@
 #include "Reads.h"
 #include "Refusal.h"
 #include "Result.h"
+#include "SheetAnswer.h"
 #include "Text.h"
 #include "norvepa.h"
 
@@ -24,6 +25,7 @@ struct Arguments
     std::string section;
     std::string type;
     std::string boardId;
+    bool limits = false;
 };
 
 std::string SubjectOf(const Arguments& arguments)
@@ -72,10 +74,36 @@ void List(const Report& report, const Arguments& arguments)
     report.Answer(table, document);
 }
 
+// As they are enumerated. No export enumerates a subdevice, whose values are those of its one section.
+std::vector<NameAndValue> ValuesToShow(const std::string& device, const std::vector<SheetSection>& sections)
+{
+    if (!IsSubdevice(device))
+    {
+        return ValuesOfDevice(device);
+    }
+    std::vector<NameAndValue> values;
+    for (const SheetSection& section : sections)
+    {
+        for (const SheetValue& value : section.values)
+        {
+            values.push_back({value.name, value.value});
+        }
+    }
+    return values;
+}
+
 void Show(const Report& report, const Arguments& arguments)
 {
-    const auto values = ValuesOfDevice(arguments.device);
-    report.Answer(AsLines(values), {{"device", arguments.device}, {"values", AsObject(values)}});
+    std::vector<SheetSection> sections = SectionsOfDevice(arguments.device);
+    if (arguments.limits)
+    {
+        CatalogueLimits limits;
+        AddLimits(arguments.device, limits, sections);
+    }
+    report.Answer(arguments.limits ? AsTableWithLimits(sections) : AsTable(sections),
+                  {{"device", arguments.device},
+                   {"values", AsObject(ValuesToShow(arguments.device, sections))},
+                   {"sections", arguments.limits ? AsArrayWithLimits(sections) : AsArray(sections)}});
 }
 
 void Get(const Report& report, const Arguments& arguments)
@@ -138,11 +166,17 @@ void AddDeviceCommands(CLI::App& app, const Report& report)
 
     CLI::App* const list =
         device->add_subcommand("list", "list them with protocol, board and unit; hidden ones are left out");
-    CLI::Option* const type = list->add_option("--type", arguments->type, "only of this CP_TYPE");
-    list->add_option("--by-id", arguments->boardId, "only of the board with this DeviceID")->excludes(type);
+    CLI::Option* const type =
+        list->add_option("--type", arguments->type, "only of this CP_TYPE")->type_name("PROTOCOL");
+    list->add_option("--by-id", arguments->boardId, "only of the board with this DeviceID")
+        ->excludes(type)
+        ->type_name("BOARD");
     list->callback([=, &report] { List(report, *arguments); });
 
-    addVerb("show", "print all values of one", &Show);
+    addVerb("show", "print all values of one, by the sections of its file", &Show)
+        ->add_flag(
+            "--limits", arguments->limits,
+            "tell also what the catalogue allows, its defaults, and by * which values differ from them");
     CLI::App* const get = addVerb("get", "print one value", &Get);
     get->add_option("PARAMETER", arguments->parameter, "the parameter; without it, \"default\"");
     get->add_option("--section", arguments->section, "from this section, and without defaults");

@@ -29,17 +29,6 @@ struct Arguments
     std::string source; // the template
 };
 
-std::vector<std::string> TemporaryDevices()
-{
-    std::vector<std::string> names = ReadTexts("the log devices", [](wchar_t* list, uint32_t* length) {
-        return PGSP_GetLogDeviceListBL(list, length);
-    });
-    const std::string prefix = ToUtf8(TemporaryPrefix);
-    std::erase_if(names, [&](const std::string& name) { return !name.starts_with(prefix); });
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
 // One code tells of all that can go wrong.
 std::string WhyNotBegun(const Arguments& arguments, int32_t result)
 {
@@ -74,7 +63,7 @@ void Begin(const Report& report, const Arguments& arguments)
 void List(const Report& report)
 {
     const std::vector<std::string> names = TemporaryDevices();
-    report.Answer(AsLines(names), names);
+    report.Answer(AsTable("TEMPORARY", names), names);
 }
 
 std::string WhyNotApplied(const Arguments& arguments, int32_t result)
@@ -147,7 +136,7 @@ void AddBegin(CLI::App& edit, const Report& report, const std::shared_ptr<Argume
     CLI::App* const begin = edit.add_subcommand("begin", "make a temporary copy and print its name");
     CLI::Option_group* const source = begin->add_option_group("source");
     source->add_option("DEVICE", arguments->device, "the log device to copy");
-    source->add_option("--from", arguments->source, "a template instead");
+    source->add_option("--from", arguments->source, "a template instead")->type_name("TEMPLATE");
     source->require_option(1);
     begin->callback([=, &report] { Begin(report, *arguments); });
 }

@@ -54,7 +54,7 @@ SheetSection ReadSubdevice(const std::string& device, const OutlineSection& subd
     return AsSection(group);
 }
 
-bool IsSubdevice(const SheetSection& section)
+bool IsOfSubdevice(const SheetSection& section)
 {
     return section.name.starts_with(SubdevicesPart);
 }
@@ -62,8 +62,7 @@ bool IsSubdevice(const SheetSection& section)
 // The part of a subdevice's name behind that of its device; empty for a device.
 std::string SubdevicePart(const std::string& device)
 {
-    const std::size_t length = ToUtf8(FileOfDevice(device)).size();
-    return length == device.size() ? "" : device.substr(length + 1);
+    return IsSubdevice(device) ? device.substr(ToUtf8(FileOfDevice(device)).size() + 1) : "";
 }
 
 // Of all that its file holds, what is the subdevice's.
@@ -122,7 +121,7 @@ void AddLimits(const std::string& device, CatalogueLimits& limits, std::vector<S
     LimitsOfPair& pair = limits.Of(ReadDevice(file, "DeviceID").value, ReadDevice(file, "CP_TYPE").value);
     for (SheetSection& section : sections)
     {
-        if (!IsSubdevice(section)) // whose values are never checked
+        if (!IsOfSubdevice(section)) // whose values are never checked
         {
             AddLimitsTo(section, pair);
         }

@@ -77,17 +77,17 @@ void PrintBytes(const Report& report, const Arguments& arguments)
 void PrintRecords(const Report& report, const Arguments& arguments)
 {
     const DriverBlock block(arguments.device);
-    std::vector<std::string> lines;
+    Table table({{"PARAMETER", 32}, {"TYPE", 8}, {"VALUE", 0}});
     Json document = Json::array();
     for (const DriverRecord& record : DecodeDriverRecords(arguments.device, block.bytes()))
     {
         const std::string name = ToUtf8(record.name);
         const char* const type = TypeWord(record.value);
         const Json value = std::visit([](const auto& each) { return AsJson(each); }, record.value);
-        lines.push_back(fmt::format("{:<32} {:<8} {}", name, type, AsText(value)));
+        table.Add({name, type, AsText(value)});
         document.push_back({{"name", name}, {"type", type}, {"value", value}});
     }
-    report.Answer(AsLines(lines), document);
+    report.Answer(table, document);
 }
 
 } // namespace

@@ -49,17 +49,16 @@ std::vector<std::string> AllNames()
 
 void List(const Report& report)
 {
-    std::vector<std::string> lines;
+    Table table({{"NAME", 32}, {"DEVICE", 24}, {"PROTOCOL", 0}});
     Json document = Json::array();
     for (const std::string& name : AllNames())
     {
         const std::string device = Read({name, "LogDevice", {}}).value;
         const std::string type = Read({name, "CP_TYPE", {}}).value;
-        lines.push_back(
-            fmt::format("{:<32} {:<24} {}", name, device.empty() ? "-" : device, type.empty() ? "-" : type));
+        table.Add({name, device.empty() ? "-" : device, type.empty() ? "-" : type});
         document.push_back({{"name", name}, {"logDevice", device}, {"type", type}});
     }
-    report.Answer(AsLines(lines), document);
+    report.Answer(table, document);
 }
 
 void Show(const Report& report, const Arguments& arguments)

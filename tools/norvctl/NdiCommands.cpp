@@ -43,7 +43,7 @@ void List(const Report& report, const Arguments& arguments)
                                                 arguments.section.Flag());
         });
     report.Answer(
-        AsLines(values),
+        AsTable(values),
         {{"device", arguments.device}, {"section", arguments.section.Name()}, {"values", AsObject(values)}});
 }
 

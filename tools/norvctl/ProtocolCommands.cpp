@@ -46,7 +46,7 @@ struct WideArguments
 
 void List(const Report& report)
 {
-    std::vector<std::string> lines;
+    Table table({{"PROTOCOL", 16}, {"NAME", 0}});
     Json document = Json::array();
     const auto protocols =
         EnumerateTexts("the protocols", [](uint32_t index, wchar_t* name, uint32_t* length) {
@@ -59,10 +59,10 @@ void List(const Report& report)
             ReadText([&](wchar_t* text, uint32_t* length) {
                 return PGSP_ProtocolGetValueRawBL(type.c_str(), nullptr, L"Name", text, length);
             }).value;
-        lines.push_back(fmt::format("{:<16} {}", protocol, name));
+        table.Add({protocol, name});
         document.push_back({{"type", protocol}, {"name", name}});
     }
-    report.Answer(AsLines(lines), document);
+    report.Answer(table, document);
 }
 
 void Show(const Report& report, const Arguments& arguments)
@@ -82,7 +82,7 @@ void Show(const Report& report, const Arguments& arguments)
                       PGSP_ERR_PARAM_NOT_FOUND);
     }
     report.Answer(
-        AsLines(pairs),
+        AsTable(pairs),
         {{"protocol", arguments.protocol}, {"parameter", arguments.parameter}, {"values", AsObject(pairs)}});
 }
 
@@ -93,7 +93,7 @@ void Profiles(const Report& report, const Arguments& arguments)
         EnumerateTexts(arguments.protocol, [&](uint32_t index, wchar_t* text, uint32_t* length) {
             return PGSP_ProtocolGetEnumBusprofilesBL(protocol.c_str(), index, text, length);
         });
-    report.Answer(AsLines(profiles), {{"protocol", arguments.protocol}, {"profiles", profiles}});
+    report.Answer(AsTable("PROFILE", profiles), {{"protocol", arguments.protocol}, {"profiles", profiles}});
 }
 
 void Baudrates(const Report& report, const Arguments& arguments)
@@ -105,7 +105,7 @@ void Baudrates(const Report& report, const Arguments& arguments)
                                                   length);
         });
     report.Answer(
-        AsLines(baudrates),
+        AsTable("BAUD RATE", baudrates),
         {{"protocol", arguments.protocol}, {"profile", arguments.profile}, {"baudrates", baudrates}});
 }
 

@@ -114,9 +114,9 @@ std::vector<NameAndValue> EnumeratePairs(const std::string& subject, const ReadP
     }
 }
 
-Table AsTable(const std::vector<NameAndValue>& pairs)
+Table AsTable(const std::vector<NameAndValue>& pairs, const char* heading)
 {
-    Table table({{"PARAMETER", 28}, {"VALUE", 0}});
+    Table table({{heading, 28}, {"VALUE", 0}});
     for (const NameAndValue& pair : pairs)
     {
         table.Add({pair.name, pair.value});
@@ -137,6 +137,16 @@ Json AsObject(const std::vector<NameAndValue>& pairs)
         object[pair.name] = pair.value;
     }
     return object;
+}
+
+Table AsTable(const char* heading, const std::vector<std::string>& texts)
+{
+    Table table({{heading, 0}});
+    for (const std::string& text : texts)
+    {
+        table.Add({text});
+    }
+    return table;
 }
 
 std::string AsLines(const std::vector<std::string>& texts)

@@ -50,11 +50,12 @@ using ReadPair = std::function<int32_t(uint32_t index, wchar_t* name, uint32_t* 
 [[nodiscard]] std::vector<NameAndValue> EnumeratePairs(const std::string& subject, const ReadPair& read);
 
 // Two columns, of parameters and their values; the same as lines of a pipe, and as an object.
-[[nodiscard]] Table AsTable(const std::vector<NameAndValue>& pairs);
+[[nodiscard]] Table AsTable(const std::vector<NameAndValue>& pairs, const char* heading = "PARAMETER");
 [[nodiscard]] std::string AsLines(const std::vector<NameAndValue>& pairs);
 [[nodiscard]] Json AsObject(const std::vector<NameAndValue>& pairs);
 
-// One text a line.
+// One text a line, and the same as a column.
+[[nodiscard]] Table AsTable(const char* heading, const std::vector<std::string>& texts);
 [[nodiscard]] std::string AsLines(const std::vector<std::string>& texts);
 
 } // namespace norvctl

@@ -76,12 +76,12 @@ std::string InWords(int32_t result)
 }
 
 Failure::Failure(const std::string& subject, int32_t result)
-    : std::runtime_error(fmt::format("{}: {}", subject, InWords(result)))
+    : std::runtime_error(fmt::format("{}: {}", subject, InWords(result))), m_result(result)
 {
 }
 
 Failure::Failure(const std::string& subject, int32_t result, const std::string& more)
-    : std::runtime_error(fmt::format("{}: {}: {}", subject, InWords(result), more))
+    : std::runtime_error(fmt::format("{}: {}: {}", subject, InWords(result), more)), m_result(result)
 {
 }
 

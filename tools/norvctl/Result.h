@@ -18,6 +18,11 @@ class Failure : public std::runtime_error
 public:
     Failure(const std::string& subject, int32_t result);
     Failure(const std::string& subject, int32_t result, const std::string& more); // "...: allowed are ..."
+
+    [[nodiscard]] int32_t result() const { return m_result; }
+
+private:
+    int32_t m_result;
 };
 
 // Throws unless it is PGSP_OK. `more` may be empty.

@@ -42,7 +42,8 @@ Widths WidestTexts(const std::vector<Row>& rows, std::size_t columns)
     Widths widths(columns, 0);
     for (const Row& row : rows)
     {
-        for (std::size_t i = 0; i < columns; ++i)
+        const bool isTitle = row.size() < columns;
+        for (std::size_t i = 0; !isTitle && i < columns; ++i)
         {
             widths[i] = std::max(widths[i], DisplayWidth(row[i]));
         }
@@ -60,6 +61,11 @@ std::string AsLine(const Row& row, const Widths& widths)
     return line + Shortened(row.back(), widths.back());
 }
 
+std::string AsTitle(const std::string& title, const TableForm& form)
+{
+    return form.width == 0 ? title : Shortened(title, form.width);
+}
+
 } // namespace
 
 Table::Table(std::vector<Column> columns) : m_columns(std::move(columns)) {}
@@ -67,6 +73,11 @@ Table::Table(std::vector<Column> columns) : m_columns(std::move(columns)) {}
 void Table::Add(std::vector<std::string> row)
 {
     m_rows.push_back(std::move(row));
+}
+
+void Table::AddTitle(std::string title)
+{
+    m_rows.push_back({std::move(title)});
 }
 
 std::string Table::AsText(const TableForm& form) const
@@ -91,9 +102,12 @@ std::string Table::AsText(const TableForm& form) const
 
     const Widths widths = WidthsFor(form, rows);
     std::string text;
+    const char* lineEnd = "";
     for (const Row& row : rows)
     {
-        text += (text.empty() ? "" : "\n") + AsLine(row, widths);
+        const bool isTitle = row.size() < m_columns.size();
+        text += lineEnd + (isTitle ? AsTitle(row.front(), form) : AsLine(row, widths));
+        lineEnd = "\n";
     }
     return text;
 }

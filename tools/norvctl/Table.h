@@ -31,6 +31,9 @@ public:
     // As many texts as there are columns.
     void Add(std::vector<std::string> row);
 
+    // A line across all columns, above the rows that follow it.
+    void AddTitle(std::string title);
+
     [[nodiscard]] bool IsEmpty() const { return m_rows.empty(); }
 
     // A line each, without a line feed behind the last. Into a width that is too small the widest columns are

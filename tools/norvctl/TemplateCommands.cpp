@@ -3,6 +3,7 @@
 #include "LinkSection.h"
 #include "Reads.h"
 #include "Result.h"
+#include "SheetAnswer.h"
 #include "Template.h"
 #include "Text.h"
 #include "norvepa.h"
@@ -40,13 +41,15 @@ void List(const Report& report)
         EnumerateTexts("the templates", [](uint32_t index, wchar_t* name, uint32_t* length) {
             return PGSP_TemplateGetEnumNoPrefixBL(TemplatesFolder, index, name, length);
         });
-    report.Answer(AsLines(names), names);
+    report.Answer(AsTable("TEMPLATE", names), names);
 }
 
 void Show(const Report& report, const Arguments& arguments)
 {
-    const auto values = ValuesOfTemplate(arguments.name);
-    report.Answer(AsLines(values), {{"template", arguments.name}, {"values", AsObject(values)}});
+    const auto sections = SectionsOfTemplate(arguments.name);
+    report.Answer(AsTable(sections), {{"template", arguments.name},
+                                      {"values", AsObject(ValuesOfTemplate(arguments.name))},
+                                      {"sections", AsArray(sections)}});
 }
 
 // Where no section is named, a value that doesn't fit is passed over, and its length never told.
@@ -110,7 +113,7 @@ void AddTemplateCommands(CLI::App& app, const Report& report)
     };
 
     noun->add_subcommand("list", "list them")->callback([&report] { List(report); });
-    addVerb("show", "print all values of one", &Show);
+    addVerb("show", "print all values of one, by the sections of its file", &Show);
     CLI::App* const get = addParameterVerb("get", "print one value", &Get);
     CLI::Option* const section = get->add_option("--section", arguments->section, "from this section");
     AddLinkSection(*get, arguments->links);

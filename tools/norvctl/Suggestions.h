@@ -1,0 +1,20 @@
+#pragma once
+
+// The right name for one of a command line that the store doesn't have.
+
+#include "Result.h"
+
+#include <CLI/CLI.hpp>
+#include <string>
+#include <vector>
+
+namespace norvctl
+{
+
+// "; did you mean baudrate?" for a verb that has failed because something isn't there; empty when nothing that is
+// there has a name as near, or when it failed for another reason. What there is, is read only now. The verb stands
+// in the words behind "norvctl".
+[[nodiscard]] std::string SuggestionFor(const CLI::App& root, const std::vector<std::string>& words,
+                                        const Failure& failure);
+
+} // namespace norvctl
