@@ -26,6 +26,7 @@ function(norv_host_headers target folder file package)
 endfunction()
 
 norv_host_headers(CLI11::CLI11 CLI CLI.hpp libcli11-dev)
+norv_host_headers(rapidjson rapidjson rapidjson.h rapidjson-dev)
 norv_host_headers(nlohmann_json::nlohmann_json nlohmann json.hpp nlohmann-json3-dev)
 if(NOT TARGET fmt::fmt-header-only)
   norv_host_headers(fmt::fmt-header-only fmt format.h libfmt-dev)

@@ -1,4 +1,5 @@
 #include "support/Norvctl.h"
+#include "support/SampleChange.h"
 
 #include <nlohmann/json.hpp>
 #include <regex>
@@ -64,14 +65,14 @@ TEST_F(NorvctlReport, HasHiddenDevicesToo)
 
 TEST_F(NorvctlReport, EscapesWhateverTheStoreHolds)
 {
-    const std::wstring name = L"<script>alert(1)</script>";
-    static_cast<void>(OutputOfNorvctl({L"device", L"copy", L"Presse#3", name}));
-    static_cast<void>(
-        OutputOfNorvctl({L"device", L"set", name, L"Remark", L"</td><img src=x onerror=alert(2)>"}));
+    ChangeSample(LogDevicePath(L"Presse(nmbr)3"), "Presse 1 und 2 abgebaut",
+                 "&lt;/td&gt;&lt;img src=x onerror=alert(2)&gt;");
+    static_cast<void>(OutputOfNorvctl({L"device", L"copy", L"Presse#3", L"<script>alert(1)</script>"}));
 
     const std::string page = Written();
 
     EXPECT_THAT(page, AllOf(HasSubstr("&lt;script&gt;alert(1)&lt;/script&gt;"),
+                            HasSubstr("&lt;/td&gt;&lt;img src=x onerror=alert(2)&gt;"),
                             Not(HasSubstr("<script>alert")), Not(HasSubstr("<img"))));
 }
 

@@ -2,6 +2,7 @@
 
 // norvctl.exe on a copy of the sample store, which the machine's registry names for as long as the test runs.
 
+#include "support/AnswerSchema.h"
 #include "support/ChildProgram.h"
 #include "support/MachineKey.h"
 #include "support/StoreRoots.h"
@@ -23,10 +24,12 @@ public:
     explicit RunningNorvctl(const Words& arguments) : ChildProgram(L"norvctl.exe", arguments) {}
 };
 
-// Runs norvctl to its end.
+// Runs norvctl to its end. The test fails when it answers with JSON that isn't as it is documented.
 [[nodiscard]] inline ProgramEnd RunNorvctl(const Words& arguments)
 {
-    return RunningNorvctl(arguments).Finish();
+    ProgramEnd end = RunningNorvctl(arguments).Finish();
+    ExpectDocumentedAnswer(arguments, end.output);
+    return end;
 }
 
 // For programs of which only the output counts: throws unless it has ended with 0.

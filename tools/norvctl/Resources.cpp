@@ -1,10 +1,10 @@
-#include "report/Resources.h"
+#include "Resources.h"
 
 #include <windows.h>
 
 #include <stdexcept>
 
-namespace norvctl::report
+namespace norvctl
 {
 
 namespace
@@ -33,4 +33,9 @@ std::string_view PageScript()
     return TextOf(L"REPORT_SCRIPT");
 }
 
-} // namespace norvctl::report
+std::string_view AnswerSchema()
+{
+    return TextOf(L"ANSWER_SCHEMA");
+}
+
+} // namespace norvctl

@@ -1,7 +1,7 @@
 #include "report/Page.h"
 
+#include "Resources.h"
 #include "report/ObjectCard.h"
-#include "report/Resources.h"
 
 #include <algorithm>
 #include <fmt/format.h>

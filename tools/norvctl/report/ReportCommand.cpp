@@ -91,8 +91,9 @@ void AddReportCommand(CLI::App& app, const Report& report)
                   "helps; what is wrong stands on top");
     const auto arguments = std::make_shared<Arguments>();
     command->add_option("FILE", arguments->file, "the page; one that is there is replaced")->required();
-    command->add_option("--since", arguments->since,
-                        "mark what has changed since this backup of store backup");
+    command
+        ->add_option("--since", arguments->since, "mark what has changed since this backup of store backup")
+        ->type_name("FILE");
     command->callback([=, &report] { Write(report, *arguments); });
     ShowExample(*command, "norvctl report store.html");
     ShowExample(*command, "norvctl report store.html --since monday.cab");
