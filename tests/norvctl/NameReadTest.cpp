@@ -157,5 +157,25 @@ TEST_F(NorvctlNameGet, WithoutADataFolderSaysSo)
               "norvctl: Kessel#1: the store's folder cannot be found (8517 PGSP_ERR_FOLDER_NOT_FOUND)\n");
 }
 
+// The library says of such a name that the buffer is too short, whatever room it is offered.
+TEST(NorvctlLongName, EndsEveryCommandThatReads)
+{
+    const std::wstring name(300, L'x');
+
+    for (const Words& words :
+         {Words{L"name", L"get", name}, Words{L"name", L"show", name},
+          Words{L"device", L"get", name, L"Unit"}, Words{L"device", L"show", name},
+          Words{L"board", L"show", name}, Words{L"board", L"get", name, L"Name"},
+          Words{L"protocol", L"show", name}, Words{L"template", L"show", name},
+          Words{L"template", L"get", name, L"Unit"}, Words{L"data", L"list", name},
+          Words{L"device", L"ndi", L"list", name}, Words{L"device", L"text", name, L"DescText"}})
+    {
+        const ProgramEnd end = RunNorvctl(words);
+
+        EXPECT_EQ(end.exitCode, 1U) << ToUtf8(words.front());
+        EXPECT_EQ(end.output, "") << ToUtf8(words.front());
+    }
+}
+
 } // namespace
 } // namespace norvepa::test

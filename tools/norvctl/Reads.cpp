@@ -15,20 +15,24 @@ namespace
 
 constexpr std::size_t FirstCapacity = 1024; // characters; lists need 260 at least
 
-// Calls with a buffer that grows for as long as the answer doesn't fit; its final size is the answer's.
+// Calls with a buffer that grows for as long as the answer doesn't fit; its final size is the answer's. A length that
+// comes back as it went in means a text that needs room for one more; twice in a row it means a name that makes too
+// long a path, of which the library says the same and no more.
 int32_t CallWithRoom(const std::function<int32_t(wchar_t*, uint32_t*)>& call, std::vector<wchar_t>& buffer,
                      std::size_t room)
 {
     buffer.resize(room);
-    for (;;)
+    for (bool wasUnchanged = false;;)
     {
         auto length = static_cast<uint32_t>(buffer.size());
         const int32_t result = call(buffer.data(), &length);
-        if (result != PGSP_ERR_BUFFER_TOO_SHORT || length < buffer.size())
+        const bool isUnchanged = length == buffer.size();
+        if (result != PGSP_ERR_BUFFER_TOO_SHORT || length < buffer.size() || (isUnchanged && wasUnchanged))
         {
             buffer.resize(result == PGSP_OK ? length : 0);
             return result;
         }
+        wasUnchanged = isUnchanged;
         buffer.resize(std::size_t{length} + 1);
     }
 }
@@ -92,6 +96,7 @@ std::vector<NameAndValue> EnumeratePairs(const std::string& subject, const ReadP
     std::vector<NameAndValue> pairs;
     std::vector<wchar_t> name(FirstCapacity);
     std::vector<wchar_t> value(FirstCapacity);
+    bool wasUnchanged = false; // both lengths, as above
     for (uint32_t index = 0;;)
     {
         auto nameLength = static_cast<uint32_t>(name.size());
@@ -101,9 +106,11 @@ std::vector<NameAndValue> EnumeratePairs(const std::string& subject, const ReadP
         {
             return pairs;
         }
+        const bool isUnchanged = nameLength == name.size() && valueLength == value.size();
         const bool grows = nameLength >= name.size() || valueLength >= value.size();
-        if (result == PGSP_ERR_BUFFER_TOO_SHORT && grows)
+        if (result == PGSP_ERR_BUFFER_TOO_SHORT && grows && !(isUnchanged && wasUnchanged))
         {
+            wasUnchanged = isUnchanged;
             name.resize(std::max<std::size_t>(name.size(), nameLength + 1));
             value.resize(std::max<std::size_t>(value.size(), valueLength + 1));
             continue;
