@@ -73,7 +73,7 @@ TEST_F(NorvctlDeviceImport, SetsWhatDiffersAndRemovesWhatTheDocumentDoesNotHave)
     EXPECT_EQ(end.error, "");
     EXPECT_EQ(end.exitCode, 0U);
     EXPECT_THAT(end.output, HasSubstr("LocalSettings\n  baudrate: 1500000 -> 187500\n"));
-    EXPECT_THAT(end.output, EndsWith("changed Kesselhaus\n"));
+    EXPECT_THAT(end.output, EndsWith("imported Kesselhaus\n"));
     EXPECT_EQ(nlohmann::json(Exported(L"Kesselhaus")), nlohmann::json(document)); // but for the order
     EXPECT_TRUE(IsNothingLeft());
 }
@@ -143,7 +143,7 @@ TEST_F(NorvctlDeviceImport, AsJsonTellsTheChanges)
 
     const ProgramEnd end = Import(L"Kesselhaus", document, {L"--json"});
 
-    EXPECT_EQ(nlohmann::json::parse(end.output), (nlohmann::json{{"done", "changed"},
+    EXPECT_EQ(nlohmann::json::parse(end.output), (nlohmann::json{{"done", "imported"},
                                                                  {"device", "Kesselhaus"},
                                                                  {"changes",
                                                                   {{{"section", "LocalSettings"},

@@ -1,5 +1,6 @@
 #include "DeviceDocument.h"
 
+#include "DocumentReader.h"
 #include "Text.h"
 
 #include <algorithm>
@@ -15,7 +16,7 @@ namespace
 
 constexpr std::string_view Format = "norvctl log device";
 constexpr int Version = 1;
-constexpr int DeepestLevel = 5;                     // of containers within containers
+// of containers within containers
 constexpr std::size_t LongestDocument = 20'000'000; // bytes
 
 constexpr std::array<const char*, 8> Keys{"format",   "version",  "name",       "board",
@@ -65,145 +66,7 @@ Json AsObject(const std::vector<ValueGroup>& groups)
     return object;
 }
 
-// The keys so far of an object that is being parsed.
-struct ObjectKeys
-{
-    std::set<std::string> all;
-    std::string last;
-};
-
-std::string PlaceOf(const std::vector<ObjectKeys>& open)
-{
-    std::string place;
-    for (const ObjectKeys& object : open)
-    {
-        place += (place.empty() ? "" : "/") + object.last;
-    }
-    return place;
-}
-
-// A document is read with its places: "sections/LocalSettings/baudrate".
-class Reader
-{
-public:
-    explicit Reader(const std::string& source) : m_source(source) {}
-
-    [[noreturn]] void Refuse(const std::string& place, std::string_view what) const
-    {
-        throw std::runtime_error(place.empty() ? fmt::format("{}: {}", m_source, what)
-                                               : fmt::format("{}: {}: {}", m_source, place, what));
-    }
-
-    void Require(bool isRight, const std::string& place, std::string_view what) const
-    {
-        if (!isRight)
-        {
-            Refuse(place, what);
-        }
-    }
-
-    // Keys that come twice are refused here: a tree of them no longer tells.
-    [[nodiscard]] Json Parse(const std::string& bytes) const
-    {
-        std::vector<ObjectKeys> open;
-        const auto look = [&](int depth, Json::parse_event_t event, const Json& parsed) {
-            Require(depth <= DeepestLevel, PlaceOf(open), "no log device is nested so deep");
-            if (event == Json::parse_event_t::object_start)
-            {
-                open.emplace_back();
-            }
-            else if (event == Json::parse_event_t::object_end)
-            {
-                open.pop_back();
-            }
-            else if (event == Json::parse_event_t::key)
-            {
-                open.back().last = parsed.get<std::string>();
-                Require(open.back().all.insert(open.back().last).second, PlaceOf(open),
-                        "this key comes twice");
-            }
-            return true;
-        };
-        try
-        {
-            return Json::parse(bytes, look);
-        }
-        catch (const Json::exception& error)
-        {
-            Refuse({}, fmt::format("this isn't a JSON document: {}", error.what()));
-        }
-    }
-
-    [[nodiscard]] const Json& Member(const Json& root, const std::string& key) const
-    {
-        const auto member = root.find(key);
-        Require(member != root.end(), key, "this is missing");
-        return *member;
-    }
-
-    [[nodiscard]] std::string Text(const Json& value, const std::string& place) const
-    {
-        Require(value.is_string(), place, "this isn't a text");
-        auto text = value.get<std::string>();
-        Require(text.find('\0') == std::string::npos, place, "a text can't hold a zero character");
-        return text;
-    }
-
-    [[nodiscard]] std::string Name(const std::string& key, const std::string& place) const
-    {
-        Require(!key.empty() && key.find('\0') == std::string::npos, place, "this isn't a name");
-        return key;
-    }
-
-    void TakeValues(ValueGroup& group, const std::string& name, const Json& value,
-                    const std::string& place) const
-    {
-        if (!value.is_array())
-        {
-            group.values.push_back({name, Text(value, place)});
-            return;
-        }
-        Require(!value.empty(), place, "there is no value in this array");
-        for (std::size_t i = 0; i < value.size(); ++i)
-        {
-            group.values.push_back({name, Text(value[i], fmt::format("{}/{}", place, i))});
-        }
-    }
-
-    [[nodiscard]] ValueGroup Group(const std::string& name, const Json& values,
-                                   const std::string& place) const
-    {
-        Require(values.is_object(), place, "this isn't an object of values");
-        ValueGroup group{name, {}};
-        std::set<std::wstring> told;
-        for (const auto& [key, value] : values.items())
-        {
-            const std::string below = place + '/' + key;
-            Require(told.insert(ToLower(ToWide(Name(key, below)))).second, below,
-                    "this name comes twice, for case doesn't count: give it an array of its values");
-            TakeValues(group, key, value, below);
-        }
-        return group;
-    }
-
-    [[nodiscard]] std::vector<ValueGroup> Groups(const Json& root, const std::string& key) const
-    {
-        const Json& object = Member(root, key);
-        Require(object.is_object(), key, "this isn't an object");
-        std::vector<ValueGroup> groups;
-        for (const auto& [name, values] : object.items())
-        {
-            const std::string place = key + '/' + name;
-            groups.push_back(Group(Name(name, place), values, place));
-        }
-        return groups;
-    }
-
-private:
-    const std::string& m_source;
-};
-
-void RequireFormat(const Reader& reader, const Json& root)
+void RequireFormat(const DocumentReader& reader, const Json& root)
 {
     constexpr const char* notOurs = "this isn't a log device as device export writes it";
     reader.Require(root.is_object() && root.contains("format") && root["format"] == Format, {}, notOurs);
@@ -217,7 +80,7 @@ void RequireFormat(const Reader& reader, const Json& root)
     }
 }
 
-void RequireLinks(const Reader& reader, const std::vector<ValueGroup>& links)
+void RequireLinks(const DocumentReader& reader, const std::vector<ValueGroup>& links)
 {
     for (const ValueGroup& section : links)
     {
@@ -275,7 +138,7 @@ Json AsJson(const DeviceDocument& document)
 
 DeviceDocument ParseDeviceDocument(const std::string& source, const std::string& bytes)
 {
-    const Reader reader(source);
+    const DocumentReader reader(source);
     reader.Require(bytes.size() <= LongestDocument, {}, "this is longer than any log device");
     const Json root = reader.Parse(bytes);
     RequireFormat(reader, root);

@@ -13,9 +13,9 @@
 //       "links": {"UserInterface64": {"DescText": "AuentalTexte.dll,1001"}}
 //     }
 //
-// All are in the order of the file; a name that a section holds several times has an array of its values. What
-// isn't carried: the types of values, further attributes, lists and constraints, what the driver loads, and of
-// UserInterface and UserInterface64 all but the libraries and targets of TransferredLinks.
+// All are in the order of the file; a name that a section holds several times has an array of its values.
+// What isn't carried: the types of values, further attributes, lists and constraints, what the driver loads,
+// and of UserInterface and UserInterface64 all but the libraries and targets of TransferredLinks.
 
 #include "FileValues.h"
 #include "Report.h"

@@ -26,7 +26,8 @@ struct ImportRefusal
 [[nodiscard]] std::vector<ImportRefusal> MakeEqual(const std::string& device, const FileValues& wanted,
                                                    const std::function<void()>& look);
 
-// What an import would change: without what the library takes for the same, a board's name with "*" and without.
+// What an import would change: without what the library takes for the same, a board's name with "*" and
+// without it.
 [[nodiscard]] std::vector<Difference> ImportChanges(const std::string& device, const FileValues& wanted);
 
 // The board's identity as a catalogue file has it.

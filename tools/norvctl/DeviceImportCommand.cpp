@@ -2,6 +2,7 @@
 #include "Device.h"
 #include "DeviceImport.h"
 #include "Example.h"
+#include "FittingTemplate.h"
 #include "Interruption.h"
 #include "Result.h"
 #include "StorePaths.h"
@@ -31,7 +32,6 @@ namespace
 {
 
 constexpr int NothingImported = 1; // the exit status
-constexpr wchar_t TemplatesFolder[] = L"DefaultLogDevices";
 
 struct Arguments
 {
@@ -60,45 +60,6 @@ DeviceDocument ReadDocument(const std::string& file)
         throw std::runtime_error(file + ": there is no such file, or it can't be read");
     }
     return ParseDeviceDocument(file, *bytes);
-}
-
-std::string TemplateValue(const std::string& source, const wchar_t* name)
-{
-    const std::wstring wide = ToWide(source);
-    return ReadText([&](wchar_t* value, uint32_t* length) {
-               return PGSP_DefDeviceGetValueBL(wide.c_str(), name, value, length, 0);
-           })
-        .value;
-}
-
-bool Fits(const std::string& source, const FileValues& wanted)
-{
-    return EqualNoCase(ToWide(TemplateValue(source, L"CP_TYPE")), ToWide(AttributeOf(wanted, "CP_TYPE"))) &&
-           EqualNoCase(ToWide(WithoutStar(TemplateValue(source, L"DeviceID"))),
-                       ToWide(WithoutStar(AttributeOf(wanted, "DeviceID"))));
-}
-
-std::string FittingTemplate(const FileValues& wanted)
-{
-    std::vector<std::string> names =
-        EnumerateTexts("the templates", [](uint32_t index, wchar_t* name, uint32_t* length) {
-            return PGSP_TemplateGetEnumNoPrefixBL(TemplatesFolder, index, name, length);
-        });
-    std::erase_if(names, [&](const std::string& name) { return !Fits(name, wanted); });
-    const std::string what = fmt::format("of the board {} and the protocol {}",
-                                         AttributeOf(wanted, "DeviceID"), AttributeOf(wanted, "CP_TYPE"));
-    if (names.empty())
-    {
-        throw std::runtime_error(fmt::format("there is no template {}: choose a log device to begin with by "
-                                             "--like",
-                                             what));
-    }
-    if (names.size() > 1)
-    {
-        throw std::runtime_error(fmt::format("there are several templates {}: choose one of {} by --from",
-                                             what, fmt::join(names, ", ")));
-    }
-    return names.front();
 }
 
 TemporaryDevice Begin(const Arguments& arguments, const FileValues& wanted, bool isThere)
@@ -160,13 +121,25 @@ Json AsArray(const std::vector<ImportRefusal>& refused)
     throw CLI::RuntimeError(NothingImported);
 }
 
-void Answer(const Report& report, const Arguments& arguments, const std::string& done,
+struct Done
+{
+    const char* word;  // for programs
+    const char* words; // for people
+};
+
+constexpr Done Imported{"imported", "imported"};
+constexpr Done Created{"created", "created"};
+constexpr Done Unchanged{"unchanged", "unchanged"};
+constexpr Done WouldChange{"compared", "would change"};
+constexpr Done WouldCreate{"compared", "would create"};
+
+void Answer(const Report& report, const Arguments& arguments, const Done& done,
             const std::vector<Difference>& changes)
 {
     std::vector<std::string> lines = AsTexts(changes);
-    lines.push_back(done + ' ' + arguments.device);
+    lines.push_back(fmt::format("{} {}", done.words, arguments.device));
     report.Answer(AsLines(lines),
-                  {{"done", done}, {"device", arguments.device}, {"changes", AsArray(changes)}});
+                  {{"done", done.word}, {"device", arguments.device}, {"changes", AsArray(changes)}});
 }
 
 // Told here, for the library announces nothing of temporary log devices.
@@ -206,7 +179,7 @@ void Import(const Report& report, const Arguments& arguments)
     const std::vector<Difference> changes = ImportChanges(temporary.name(), wanted);
     if (isThere && changes.empty())
     {
-        return Answer(report, arguments, "unchanged", changes);
+        return Answer(report, arguments, Unchanged, changes);
     }
 
     const auto refused = MakeEqual(temporary.name(), wanted, [&] { interruption.Require(); });
@@ -216,7 +189,7 @@ void Import(const Report& report, const Arguments& arguments)
     }
     if (arguments.isDryRun)
     {
-        return Answer(report, arguments, isThere ? "would change" : "would create", changes);
+        return Answer(report, arguments, isThere ? WouldChange : WouldCreate, changes);
     }
     interruption.Require();
     if (BytesOf(PathOfDevice(arguments.device)) != before)
@@ -225,7 +198,7 @@ void Import(const Report& report, const Arguments& arguments)
                                  ": somebody else has changed it meanwhile, and it stays so");
     }
     PutInPlace(arguments, temporary, isThere);
-    Answer(report, arguments, isThere ? "changed" : "created", changes);
+    Answer(report, arguments, isThere ? Imported : Created, changes);
 }
 
 std::string RefusePart(const std::string& name)
@@ -255,7 +228,9 @@ void AddDeviceImportCommand(CLI::App& device, const Report& report)
     import
         ->add_option("--like", arguments->model,
                      "the log device that a new one begins as, with its subdevices")
-        ->excludes(source);
+        ->excludes(source)
+        ->type_name("DEVICE");
+    source->type_name("TEMPLATE");
     import->add_flag("--dry-run", arguments->isDryRun, "change nothing, and tell what would change");
     import->callback([=, &report] { Import(report, *arguments);
 });

@@ -41,8 +41,8 @@ public:
     void ReadAll(const std::wstring& folder);
     void MoveTo(const std::wstring& folder) { m_folder = folder; } // where they lie from now on
 
-    // Tells what is another than it was. `waited` is how long ago, in milliseconds, something was heard of the
-    // file last.
+    // Tells what is another than it was. `waited` is how long ago, in milliseconds, something was heard of
+    // the file last.
     [[nodiscard]] Outcome LookAt(const std::wstring& path, ULONGLONG waited);
 
     // Tells of a file that is known, and has a name now that no known one had.

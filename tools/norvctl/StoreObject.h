@@ -24,8 +24,8 @@ struct StoreObject
     bool operator==(const StoreObject&) const = default;
 };
 
-// By the path below the part's folder. None for what belongs to no object: files of other kinds, temporary log
-// devices, and forms of files in the making.
+// By the path below the part's folder. None for what belongs to no object: files of other kinds, temporary
+// log devices, and forms of files in the making.
 [[nodiscard]] std::optional<StoreObject> ObjectAt(StorePart part, std::wstring_view path);
 
 // "Kesselhaus", "log name Kessel#1", "settings".

@@ -20,8 +20,8 @@ public:
 
     [[nodiscard]] const std::string& name() const { return m_name; }
 
-    // Throws when it couldn't. Where the log device is gone by then, the temporary one stays: it is all that is
-    // left, and the message tells its name.
+    // Throws when it couldn't. Where the log device is gone by then, the temporary one stays: it is all that
+    // is left, and the message tells its name.
     void ReplaceDevice(const std::string& device);
 
     // For a name that no log device has. For a moment the new one is visible and can be removed, whatever its
