@@ -19,7 +19,6 @@ namespace norvctl
 
 // The file is there whole, read again and compared, or not at all, and then the older one is as it was. Each part
 // of the work shows how far it has come. Returns its size in bytes; throws with what is wrong.
-[[nodiscard]] std::size_t WriteBackupFile(const std::wstring& file, const StoreBackup& backup,
-                                          Existing existing);
+std::size_t WriteBackupFile(const std::wstring& file, const StoreBackup& backup, Existing existing);
 
 } // namespace norvctl

@@ -73,7 +73,7 @@ public:
                 "elsewhere, and restore it if it is wanted",
                 ToUtf8(m_file)));
         }
-        static_cast<void>(WriteBackupFile(m_file, was, Existing::Stays));
+        WriteBackupFile(m_file, was, Existing::Stays);
     }
     Rescue(const Rescue&) = delete;
     Rescue& operator=(const Rescue&) = delete;
