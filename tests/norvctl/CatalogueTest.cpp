@@ -150,7 +150,7 @@ TEST_F(NorvctlProtocol, ASubParameterWithoutItsValueIsMisuse)
     const ProgramEnd end = RunNorvctl(
         {L"protocol", L"show", L"L2", L"busparam", L"--value", L"0", L"--sub-parameter", L"baudrate"});
 
-    EXPECT_EQ(end.exitCode, 1U);
+    EXPECT_EQ(end.exitCode, 2U);
     EXPECT_THAT(end.error, HasSubstr("--sub-value"));
 }
 

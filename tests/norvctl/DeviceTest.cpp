@@ -46,7 +46,7 @@ TEST_F(NorvctlDevice, TypeAndBoardExcludeEachOther)
 {
     const ProgramEnd end = RunNorvctl({L"device", L"list", L"--type", L"MPI", L"--by-id", L"AFK110"});
 
-    EXPECT_EQ(end.exitCode, 1U);
+    EXPECT_EQ(end.exitCode, 2U);
     EXPECT_THAT(end.error, HasSubstr("excludes"));
 }
 

@@ -63,7 +63,7 @@ TEST_F(NorvctlNameCreate, RefusesAnEmptyNameAndMakesNothing)
 {
     const ProgramEnd end = RunNorvctl({L"name", L"create", L""});
 
-    EXPECT_EQ(end.exitCode, 1U);
+    EXPECT_EQ(end.exitCode, 2U);
     EXPECT_THAT(end.error, HasSubstr("a log name is not empty"));
     EXPECT_FALSE(Exists(folder / L"data-root\\data\\LogNames.xml"));
 }

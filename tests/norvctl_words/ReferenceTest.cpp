@@ -22,7 +22,7 @@ TEST(NorvctlReference, HasEveryVerbWithItsExamples)
 
     for (const CLI::App* verb : norvctl::VerbsOf(tree.root()))
     {
-        EXPECT_THAT(markdown, HasSubstr("\n### " + norvctl::PathOf(*verb) + '\n'));
+        EXPECT_THAT(markdown, HasSubstr("## " + norvctl::PathOf(*verb) + '\n'));
         EXPECT_THAT(markdown, HasSubstr("\n```\n" + norvctl::UsageOf(*verb) + "\n```\n"));
         EXPECT_THAT(markdown, HasSubstr('\n' + norvctl::ExamplesOf(*verb).front() + '\n'));
     }
@@ -32,7 +32,7 @@ TEST(NorvctlReference, LeavesOutWhatIsForScriptsAlone)
 {
     Tree tree;
 
-    EXPECT_THAT(norvctl::MarkdownReference(tree.root()), Not(HasSubstr("### norvctl complete\n")));
+    EXPECT_THAT(norvctl::MarkdownReference(tree.root()), Not(HasSubstr("## norvctl complete\n")));
 }
 
 TEST(NorvctlReference, AsAPageOfTheManualHasItsSections)

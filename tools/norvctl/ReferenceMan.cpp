@@ -41,7 +41,7 @@ std::string TaggedList(const OptionList& options)
 
 std::string Lines(const std::vector<std::string>& lines)
 {
-    std::string text = ".PP\n.nf\n";
+    std::string text = ".nf\n";
     for (const std::string& line : lines)
     {
         text += Escaped(line) + '\n';
@@ -53,7 +53,7 @@ std::string VerbText(const CLI::App& verb)
 {
     const OptionList options = OptionsOf(verb);
     return fmt::format(".SS {}\n", Escaped(UsageOf(verb))) + Escaped(verb.get_description()) + ".\n" +
-           TaggedList(ArgumentsOf(verb)) + TaggedList(options) + Lines(ExamplesOf(verb));
+           TaggedList(ArgumentsOf(verb)) + TaggedList(options) + ".PP\n" + Lines(ExamplesOf(verb));
 }
 
 } // namespace

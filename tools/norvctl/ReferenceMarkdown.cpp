@@ -66,20 +66,54 @@ std::string CodeBlock(const std::vector<std::string>& lines)
     return lines.empty() ? "" : fmt::format("\n```\n{}\n```\n", fmt::join(lines, "\n"));
 }
 
-std::string VerbText(const CLI::App& verb)
+std::string VerbText(const CLI::App& verb, std::string_view heading)
 {
-    return fmt::format("\n### {}\n\n{}\n", PathOf(verb), AsSentence(verb.get_description())) +
+    return fmt::format("\n{} {}\n\n{}\n", heading, PathOf(verb), AsSentence(verb.get_description())) +
            CodeBlock({UsageOf(verb)}) + ListOf(ArgumentsOf(verb)) + ListOf(OptionsOf(verb)) +
            (ExamplesOf(verb).empty() ? "" : "\nFor example:\n") + CodeBlock(ExamplesOf(verb));
 }
 
-std::string TableOfVerbs(const CLI::App& root)
+// A verb is a chapter of its own, or stands in that of its noun.
+std::string Chapter(const CLI::App& command)
 {
-    std::string table = "\n| Command | What it does |\n|---|---|\n";
-    for (const CLI::App* verb : VerbsOf(root))
+    if (CommandsOf(command).empty())
     {
-        table += fmt::format("| [{}](#{}) | {} |\n", PathOf(*verb), AnchorOf(*verb),
-                             Escaped(verb->get_description()));
+        return VerbText(command, "##");
+    }
+    std::string text = fmt::format("\n## {}\n\n{}\n", PathOf(command), AsSentence(command.get_description()));
+    for (const CLI::App* verb : VerbsOf(command))
+    {
+        text += VerbText(*verb, "###");
+    }
+    return text;
+}
+
+std::string LinkTo(const CLI::App& command, std::string_view words)
+{
+    return fmt::format("[{}](#{})", words, AnchorOf(command));
+}
+
+// The verbs of a noun by their words behind it.
+std::string LinksToVerbs(const CLI::App& command)
+{
+    std::vector<std::string> links;
+    if (!CommandsOf(command).empty())
+    {
+        for (const CLI::App* verb : VerbsOf(command))
+        {
+            links.push_back(LinkTo(*verb, PathOf(*verb).substr(PathOf(command).size() + 1)));
+        }
+    }
+    return fmt::format("{}", fmt::join(links, ", "));
+}
+
+std::string TableOfCommands(const CLI::App& root)
+{
+    std::string table = "\n| Command | What it is for | Verbs |\n|---|---|---|\n";
+    for (const CLI::App* command : CommandsOf(root))
+    {
+        table += fmt::format("| {} | {} | {} |\n", LinkTo(*command, command->get_name()),
+                             Escaped(command->get_description()), LinksToVerbs(*command));
     }
     return table;
 }
@@ -115,10 +149,10 @@ std::string MarkdownReference(const CLI::App& root)
     }
     text += CodeBlock({UsageOf(root)});
     text += "\nOptions of every command:\n" + ListOf(OptionsOfAll(root));
-    text += "\n## Commands\n" + TableOfVerbs(root);
-    for (const CLI::App* verb : VerbsOf(root))
+    text += "\n## Commands\n" + TableOfCommands(root);
+    for (const CLI::App* command : CommandsOf(root))
     {
-        text += VerbText(*verb);
+        text += Chapter(*command);
     }
     text += "\n## Exit status\n" + ListOfStatuses();
     text += "\n## Files\n" + ListOfFiles();

@@ -127,15 +127,25 @@ Texts Parameters(const CommandLine& line)
     return names;
 }
 
+// A choice is a value, or "93750/93,75 kbit/s": a value and what people are shown of it.
+Texts WithoutTexts(Texts choices)
+{
+    for (std::string& choice : choices)
+    {
+        choice.erase(std::min(choice.find('/'), choice.size()));
+    }
+    return choices;
+}
+
 Texts ParameterChoices(const CommandLine& line)
 {
     const std::string device = line.ValueOf("DEVICE");
-    return device.empty() ? Texts{} : ChoicesOf(device, line.ValueOf("PARAMETER"));
+    return device.empty() ? Texts{} : WithoutTexts(ChoicesOf(device, line.ValueOf("PARAMETER")));
 }
 
 Texts Baudrates(const CommandLine& line)
 {
-    return CommonChoicesOf(line.ValueOf("DEVICE"), "baudrate");
+    return WithoutTexts(CommonChoicesOf(line.ValueOf("DEVICE"), "baudrate"));
 }
 
 // What a watch may be of: a file of the folder that is named.
