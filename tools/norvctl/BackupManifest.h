@@ -34,8 +34,8 @@ struct Manifest
 
 [[nodiscard]] std::string WriteManifest(const StoreBackup& backup);
 
-// Takes any text. Throws with what is wrong; every name leads below the root, no two are the same, and every one
-// lies in a folder of the list.
+// Takes any text. Throws with what is wrong; every name leads below the root, no two are the same, and every
+// one lies in a folder of the list.
 [[nodiscard]] Manifest ReadManifest(std::string_view text);
 
 } // namespace norvctl

@@ -1,6 +1,7 @@
 #pragma once
 
-// The files that the system's cabinet functions believe to work on: in memory, for as long as the object lives.
+// The files that the system's cabinet functions believe to work on: in memory, for as long as the object
+// lives.
 
 #include <cstddef>
 #include <map>
@@ -30,8 +31,8 @@ private:
     std::size_t m_place = 0;
 };
 
-// The functions below are for callers in C: they tell failures by what they return and throw nothing. A handle
-// is one of a stream that has been opened and not closed, or they fail.
+// The functions below are for callers in C: they tell failures by what they return and throw nothing. A
+// handle is one of a stream that has been opened and not closed, or they fail.
 class CabinetStreams
 {
 public:

@@ -52,8 +52,8 @@ void SetText(const Key& key, const wchar_t* name, const std::wstring& text)
     RequireKey(RegSetValueExW(key.get(), name, 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()), size));
 }
 
-// The listings and the index of identities outlive NorvepaBl64x_deinit; a question about a folder that can't be
-// watched drops them.
+// The listings and the index of identities outlive NorvepaBl64x_deinit; a question about a folder that can't
+// be watched drops them.
 void DropAllThatIsKept()
 {
     NorvepaBl64x_deinit();

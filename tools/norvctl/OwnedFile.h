@@ -46,8 +46,8 @@ public:
 
     void SetAs(const KeptFile& file); // attributes and write time; behind all writing
 
-    // Takes the other place by one renaming. False, with the reason in the system's last error, when it can't;
-    // it may be tried again then. Once it has succeeded nothing may follow.
+    // Takes the other place by one renaming. False, with the reason in the system's last error, when it
+    // can't; it may be tried again then. Once it has succeeded nothing may follow.
     [[nodiscard]] bool TryToBecome(const std::wstring& path, Existing existing);
 
 private:

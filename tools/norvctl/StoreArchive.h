@@ -17,8 +17,8 @@
 namespace norvctl
 {
 
-// A backup that has been found whole, and its files in a temporary folder, which goes with the object. The files
-// have their names and write times, but may all be changed.
+// A backup that has been found whole, and its files in a temporary folder, which goes with the object. The
+// files have their names and write times, but may all be changed.
 class BackupReader
 {
 public:
@@ -36,11 +36,11 @@ private:
 };
 
 // For as long as it lives, the library and StoreRoots.h find another data root, in this process alone; the
-// program root stays. All of the registry below HKEY_LOCAL_MACHINE is out of sight meanwhile. What the library
-// keeps of either store is dropped at both ends.
+// program root stays. All of the registry below HKEY_LOCAL_MACHINE is out of sight meanwhile. What the
+// library keeps of either store is dropped at both ends.
 //
-// Callers must: have no more than one, and no call of the library under way on another thread when it is made or
-// goes.
+// Callers must: have no more than one, and no call of the library under way on another thread when it is made
+// or goes.
 class OtherStore
 {
 public:

@@ -25,8 +25,8 @@ struct RestoreArguments
 };
 void RestoreStore(const Report& report, const RestoreArguments& arguments);
 
-// The data root that the machine names; throws when there is none, or when the archive lies below it: it would
-// be a part of the store.
+// The data root that the machine names; throws when there is none, or when the archive lies below it: it
+// would be a part of the store.
 [[nodiscard]] std::wstring DataFolderFor(const std::wstring& archive);
 
 } // namespace norvctl

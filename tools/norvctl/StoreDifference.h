@@ -17,8 +17,8 @@ enum class Others // what the other store doesn't have
     AreKept
 };
 
-// Names below the data root. A file has changed when its bytes, its write time, its attributes or the case of its
-// name differ; the attributes of a folder stay as they are.
+// Names below the data root. A file has changed when its bytes, its write time, its attributes or the case of
+// its name differ; the attributes of a folder stay as they are.
 struct StoreDifference
 {
     std::vector<std::wstring> removedFiles;

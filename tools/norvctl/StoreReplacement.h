@@ -2,8 +2,9 @@
 
 // Makes a data folder as another snapshot, all of it or nothing.
 //
-// File by file, each by one renaming in its folder: other processes watch the folders, and a folder that somebody
-// has open can't be renamed. Their watches hear of each file. What has been done is undone when a step fails.
+// File by file, each by one renaming in its folder: other processes watch the folders, and a folder that
+// somebody has open can't be renamed. Their watches hear of each file. What has been done is undone when a
+// step fails.
 
 #include "StoreDifference.h"
 #include "StoreSnapshot.h"

@@ -34,8 +34,8 @@ struct StoreSnapshot
 };
 
 // Each file whole, also while others change it: one that is in use is waited for two seconds. Files that go
-// meanwhile and left-overs of files in the making aren't in it. Throws when a file can't be read, naming it, and
-// when there is a link to elsewhere or a name that a backup can't keep. Shows how far it has come.
+// meanwhile and left-overs of files in the making aren't in it. Throws when a file can't be read, naming it,
+// and when there is a link to elsewhere or a name that a backup can't keep. Shows how far it has come.
 [[nodiscard]] StoreSnapshot ReadSnapshot(const std::wstring& root);
 
 } // namespace norvctl
