@@ -57,7 +57,7 @@ TEST_F(NorvctlTemplate, ShowTellsAllValues)
     const std::string text = OutputOfNorvctl({L"template", L"show", L"MPI-AFK110"});
     const json document = json::parse(OutputOfNorvctl({L"--json", L"template", L"show", L"MPI-AFK110"}));
 
-    EXPECT_THAT(text, HasSubstr("\nbaudrate                     187500\n"));
+    EXPECT_THAT(text, HasSubstr("\n  baudrate                     187500\n"));
     EXPECT_EQ(document.at("template"), "MPI-AFK110");
     EXPECT_EQ(document.at("values").at("baudrate"), "187500");
     EXPECT_EQ(document.at("values").at("bus_termination"), "150 \u03A9");

@@ -66,6 +66,14 @@ TEST(NorvctlTable, KeepsAValueOfSeveralLinesOnOneInATerminalAndAsItIsInAPipe)
     EXPECT_EQ(table.AsText({}), "text first\nsecond");
 }
 
+TEST(NorvctlTable, LeavesNoBlanksWhereTheLastColumnsAreEmpty)
+{
+    Table table({{"NAME", 8}, {"PLACE", 8}, {"UNIT", 0}});
+    table.Add({"Labor", "", ""});
+
+    EXPECT_EQ(table.AsText({}), "Labor");
+}
+
 TEST(NorvctlTable, KeepsALineThatIsEmpty)
 {
     Table table({{"VALUE", 0}});

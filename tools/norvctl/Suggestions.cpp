@@ -80,6 +80,12 @@ std::string WithoutStar(const std::string& name)
     return name.starts_with('*') ? name.substr(1) : name;
 }
 
+// Where a parameter may be followed by one of its values, PARAMETER\VALUE.
+std::string WithoutValue(const std::string& parameter)
+{
+    return parameter.substr(0, parameter.find('\\'));
+}
+
 std::optional<std::string> NearestDevice(const std::string& device, const CommandLine& line)
 {
     if (IsDeviceThere(device)) // hidden ones aren't enumerated
@@ -109,7 +115,8 @@ std::optional<std::string> NearestName(const std::string& noun, const std::strin
     {
         AddParametersOfCatalogue(device, candidates);
     }
-    const std::string name = WithoutStar(given);
+    std::transform(candidates.begin(), candidates.end(), candidates.begin(), &WithoutStar);
+    const std::string name = noun == "PARAMETER" ? WithoutValue(given) : WithoutStar(given);
     return IsAmong(candidates, name) ? std::nullopt : NearestTo(name, candidates);
 }
 

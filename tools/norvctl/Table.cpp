@@ -51,14 +51,26 @@ Widths WidestTexts(const std::vector<Row>& rows, std::size_t columns)
     return widths;
 }
 
+// Columns that are empty up to the end leave no blanks there.
+std::size_t LastText(const Row& row)
+{
+    std::size_t last = row.size() - 1;
+    while (last > 0 && row[last].empty())
+    {
+        --last;
+    }
+    return last;
+}
+
 std::string AsLine(const Row& row, const Widths& widths)
 {
+    const std::size_t last = LastText(row);
     std::string line;
-    for (std::size_t i = 0; i + 1 < row.size(); ++i)
+    for (std::size_t i = 0; i < last; ++i)
     {
         line += Padded(Shortened(row[i], widths[i]), widths[i]) + ' ';
     }
-    return line + Shortened(row.back(), widths.back());
+    return line + Shortened(row[last], widths[last]);
 }
 
 std::string AsTitle(const std::string& title, const TableForm& form)
