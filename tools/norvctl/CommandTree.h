@@ -1,7 +1,7 @@
 #pragma once
 
-// What the tree of commands says of itself: the one source of help, reference and completion, and of the answers
-// to words that it doesn't know.
+// What the tree of commands says of itself: the one source of help, reference and completion, and of the
+// answers to words that it doesn't know.
 
 #include <CLI/CLI.hpp>
 #include <string>
@@ -22,8 +22,8 @@ using OptionList = std::vector<const CLI::Option*>;
 // All verbs below a command, or itself if it is one: a verb has no commands below it.
 [[nodiscard]] CommandList VerbsOf(const CLI::App& command);
 
-// What is told by its position, in that order, and by a name. The options that all commands have in common are
-// those of the root, and help.
+// What is told by its position, in that order, and by a name. The options that all commands have in common
+// are those of the root, and help.
 [[nodiscard]] OptionList ArgumentsOf(const CLI::App& command);
 [[nodiscard]] OptionList OptionsOf(const CLI::App& command);
 [[nodiscard]] OptionList OptionsOfAll(const CLI::App& command);
@@ -38,7 +38,8 @@ using OptionList = std::vector<const CLI::Option*>;
 // The values to choose from; none when any value will do.
 [[nodiscard]] std::vector<std::string> ValuesOf(const CLI::Option& option);
 
-// How an option is typed, "--type int|bool|string"; how a command is, "norvctl device get DEVICE [PARAMETER]".
+// How an option is typed, "--type int|bool|string"; how a command is, "norvctl device get DEVICE
+// [PARAMETER]".
 [[nodiscard]] std::string UsageOf(const CLI::Option& option);
 [[nodiscard]] std::string UsageOf(const CLI::App& command);
 

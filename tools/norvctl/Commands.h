@@ -10,7 +10,8 @@
 namespace norvctl
 {
 
-// Makes an empty parser norvctl's. The report, which the options --json and --headings change, must outlive it.
+// Makes an empty parser norvctl's. The report, which the options --json and --headings change, must
+// outlive it.
 void AddCommands(CLI::App& app, Report& report);
 
 void AddDeviceCommands(CLI::App& app, const Report& report); // device list, show, get, set, unset

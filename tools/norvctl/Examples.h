@@ -1,7 +1,7 @@
 #pragma once
 
-// The examples of the verbs, side by side: command lines that run as they stand on the sample plant. A verb may
-// show its own instead, by ShowExample.
+// The examples of the verbs, side by side: command lines that run as they stand on the sample plant. A
+// verb may show its own instead, by ShowExample.
 
 #include <CLI/CLI.hpp>
 

@@ -9,8 +9,8 @@
 namespace norvctl
 {
 
-// What is wrong with it, with the right word where one is near, and what to run for more; lines that end with a
-// line feed. The parser has refused the words with this error.
+// What is wrong with it, with the right word where one is near, and what to run for more; lines that end
+// with a line feed. The parser has refused the words with this error.
 [[nodiscard]] std::string ExplainMisuse(const CLI::App& root, const std::vector<std::string>& words,
                                         const CLI::ParseError& error);
 

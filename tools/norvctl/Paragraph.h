@@ -9,7 +9,8 @@
 namespace norvctl
 {
 
-// A text of so many columns at most, except where one word alone has more. Lines behind the first are indented.
+// A text of so many columns at most, except where one word alone has more. Lines behind the first are
+// indented.
 [[nodiscard]] std::string Wrapped(const std::string& text, std::size_t width, std::size_t indent);
 
 struct Definition

@@ -17,12 +17,13 @@ struct ShellLine
     char quote = '\0';              // the mark that is open at the end
 };
 
-// Bash replaces what stands behind a quotation mark that is open, or else behind the last of the characters in
-// COMP_WORDBREAKS.
+// Bash replaces what stands behind a quotation mark that is open, or else behind the last of the
+// characters in COMP_WORDBREAKS.
 [[nodiscard]] ShellLine ReadBashLine(std::string_view line, std::string_view breaks);
 
-// What bash is to put there for each of the words, all of which begin as the present one does. When one needs
-// marks all get them: what words have in common, which is all that bash puts there, is then quoted right, too.
+// What bash is to put there for each of the words, all of which begin as the present one does. When one
+// needs marks all get them: what words have in common, which is all that bash puts there, is then quoted
+// right, too.
 [[nodiscard]] std::vector<std::string> BashWords(const std::vector<std::string>& words,
                                                  const ShellLine& line);
 

@@ -10,8 +10,8 @@
 namespace norvctl
 {
 
-// The values that may stand for a word as DEVICE or PARAMETER behind a command line; none when the store has none
-// for it. Throws what a read throws.
+// The values that may stand for a word as DEVICE or PARAMETER behind a command line; none when the store
+// has none for it. Throws what a read throws.
 [[nodiscard]] std::vector<std::string> ValuesFromStore(const std::string& word, const CommandLine& line);
 
 // True for a word as PATH, of which the shell knows more.
