@@ -165,6 +165,19 @@ TEST_F(NorvctlDeviceSheet, OfASubdeviceHasItsValuesAlone)
     EXPECT_EQ(sections.front().values.at(2).value, "false");
 }
 
+TEST_F(NorvctlDeviceSheet, HasTheValuesThatAreReadOfSubdevices)
+{
+    for (const SheetSection& section : norvctl::SectionsOfDevice("Kesselhaus"))
+    {
+        for (std::size_t i = 0; IsOfSubdevice(section) && i < section.values.size(); ++i)
+        {
+            const SheetValue& value = section.values[i];
+            EXPECT_EQ(norvctl::ReadDevice("Kesselhaus\\" + section.name, value.name).value, value.value)
+                << section.name << ", " << value.name;
+        }
+    }
+}
+
 TEST_F(NorvctlDeviceSheet, OfWhatIsNotThereIsRefused)
 {
     EXPECT_THROW(static_cast<void>(norvctl::SectionsOfDevice("gone")), std::runtime_error);

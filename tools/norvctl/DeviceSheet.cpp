@@ -1,11 +1,10 @@
 #include "DeviceSheet.h"
 
 #include "Device.h"
-#include "Result.h"
+#include "StorePaths.h"
 #include "Template.h"
 #include "Text.h"
 #include "XmlTransfer.h"
-#include "norvepa.h"
 
 #include <algorithm>
 
@@ -39,19 +38,22 @@ std::vector<SheetSection> AsSections(const std::vector<NameAndValue>& enumerated
     return sections;
 }
 
-// No export enumerates a subdevice, so the outline tells the names.
-SheetSection ReadSubdevice(const std::string& device, const OutlineSection& subdevice)
+// No export enumerates a subdevice, and to ask for each value would take longer than all else.
+SheetSection AsSection(const OutlineSection& subdevice)
 {
     SectionValues group{SubdevicesPart + subdevice.name, {}};
     for (const OutlineEntry& entry : subdevice.entries)
     {
-        const ReadResult read = ReadDevice(device + '\\' + group.name, entry.name);
-        if (read.result == PGSP_OK)
-        {
-            group.values.push_back({entry.name, read.value});
-        }
+        group.values.push_back({entry.name, entry.value});
     }
     return AsSection(group);
+}
+
+// As it stands; the library leaves blanks out where it hands a file out.
+std::optional<FileOutline> OutlineOfDevice(const std::string& device)
+{
+    const std::optional<std::string> bytes = BytesOf(PathOfDevice(device));
+    return OutlineOf(bytes ? *bytes : ReadXml(DeviceXml, device));
 }
 
 bool IsOfSubdevice(const SheetSection& section)
@@ -96,11 +98,11 @@ std::vector<SheetSection> SectionsOfDevice(const std::string& device)
     }
     const std::string whole = ToUtf8(FileOfDevice(device));
     const std::vector<NameAndValue> enumerated = ValuesOfDevice(whole);
-    const std::optional<FileOutline> outline = OutlineOf(ReadXml(DeviceXml, whole));
+    const std::optional<FileOutline> outline = OutlineOfDevice(whole);
     std::vector<SheetSection> sections = AsSections(enumerated, outline);
     for (const OutlineSection& subdevice : outline ? outline->subdevices : std::vector<OutlineSection>{})
     {
-        sections.push_back(ReadSubdevice(whole, subdevice));
+        sections.push_back(AsSection(subdevice));
     }
     if (!part.empty())
     {

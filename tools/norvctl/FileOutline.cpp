@@ -36,9 +36,10 @@ std::vector<OutlineEntry> EntriesOf(const XmlElement& section)
     {
         const std::size_t kind = KindOf(element.name);
         const XmlElement* const name = ChildOf(element, "Name");
-        if (kind != NoKind && name != nullptr && ChildOf(element, "Value") != nullptr)
+        const XmlElement* const value = ChildOf(element, "Value");
+        if (kind != NoKind && name != nullptr && value != nullptr)
         {
-            entries.push_back({name->text, kind});
+            entries.push_back({name->text, value->text, kind});
         }
     }
     return entries;

@@ -21,6 +21,7 @@ inline constexpr std::array<const wchar_t*, 5> EnumeratedSections{
 struct OutlineEntry
 {
     std::string name;
+    std::string value;
     std::size_t kind; // an enumeration tells those of a section by their kinds
 };
 
