@@ -1,3 +1,4 @@
+#include "exports_trace/LogNameTraceScene.h"
 #include "support/LogNameCalls.h"
 #include "support/ShellFolders.h"
 #include "support/TraceLines.h"
@@ -17,13 +18,6 @@ using testing::IsEmpty;
 std::string ExportLine(std::string_view message)
 {
     return TraceLine("LogNameGetValueBL: ", message);
-}
-
-std::string ToAnsi(const std::wstring& text)
-{
-    char ansi[300] = "";
-    WideCharToMultiByte(CP_ACP, 0, text.c_str(), -1, ansi, sizeof ansi, nullptr, nullptr);
-    return ansi;
 }
 
 class LogNameGetValueTrace : public testing::Test

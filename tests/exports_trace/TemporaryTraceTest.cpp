@@ -11,11 +11,11 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-constexpr wchar_t First[] = L"PGSP_TEMP_LOG_DEVICE____000";
+constexpr wchar_t FirstCopy[] = L"PGSP_TEMP_LOG_DEVICE____000";
 
 const std::string FirstMade = "exit: << return PGSP_OK, TempLogDevice = PGSP_TEMP_LOG_DEVICE____000";
 const std::string NoneMade = "exit: << return PGSP_CANT_CREATE_TEMP_LOG_DEVICE";
-const std::string TooShort = "exit: << return PGSP_ERR_BUFFER_TOO_SHORT";
+const std::string BufferTooShort = "exit: << return PGSP_ERR_BUFFER_TOO_SHORT";
 
 class TemporaryTrace : public LogNameTraceScene
 {
@@ -69,7 +69,7 @@ TEST_F(TemporaryTrace, OfACopyTellsItsNameAtTheEnd)
 
 TEST_F(TemporaryTrace, OfACopyTriesNumberAfterNumber)
 {
-    WriteBytes(roots.logDevice(First), "");
+    WriteBytes(roots.logDevice(FirstCopy), "");
     Load();
 
     EXPECT_EQ(Make(L"Presse"), PGSP_OK);
@@ -99,9 +99,10 @@ TEST_F(TemporaryTrace, OfABufferThatIsTooShortTellsNoName)
     EXPECT_EQ(Make(L"Presse", 27), PGSP_ERR_BUFFER_TOO_SHORT);
     EXPECT_EQ(MakeFromTemplate(L"MPI", 27), PGSP_ERR_BUFFER_TOO_SHORT);
 
-    EXPECT_THAT(LinesOf("LogDeviceCreateTempBL"), ElementsAre("entry: >> LogDevice = Presse", TooShort));
+    EXPECT_THAT(LinesOf("LogDeviceCreateTempBL"),
+                ElementsAre("entry: >> LogDevice = Presse", BufferTooShort));
     EXPECT_THAT(LinesOf("LogDeviceCreateTempFromDefBL"),
-                ElementsAre("entry: >> DefLogDeviceName = MPI", TooShort));
+                ElementsAre("entry: >> DefLogDeviceName = MPI", BufferTooShort));
 }
 
 TEST_F(TemporaryTrace, OfACopySaysNothingOfADataFolderThatIsMissing)
@@ -195,11 +196,11 @@ TEST_F(TemporaryTrace, OfATemplateNamesTheDataFolderAheadOfTheOther)
 
 TEST_F(TemporaryTrace, OfARemovalIsTheResult)
 {
-    WriteBytes(roots.logDevice(First), "");
+    WriteBytes(roots.logDevice(FirstCopy), "");
     Load();
 
-    EXPECT_EQ(library().LogDeviceDelTempBL(First), PGSP_OK);
-    EXPECT_EQ(library().LogDeviceDelTempBL(First), PGSP_ERR_CANT_DELETE_FILE);
+    EXPECT_EQ(library().LogDeviceDelTempBL(FirstCopy), PGSP_OK);
+    EXPECT_EQ(library().LogDeviceDelTempBL(FirstCopy), PGSP_ERR_CANT_DELETE_FILE);
 
     EXPECT_THAT(
         LinesOf("LogDeviceDelTempBL"),
@@ -223,7 +224,7 @@ TEST_F(TemporaryTrace, OfARemovalNamesTheDataFolderThatIsMissing)
     store.TakeDataFolderAway();
     Load();
 
-    EXPECT_EQ(library().LogDeviceDelTempBL(First), PGSP_ERR_FOLDER_NOT_FOUND);
+    EXPECT_EQ(library().LogDeviceDelTempBL(FirstCopy), PGSP_ERR_FOLDER_NOT_FOUND);
 
     EXPECT_THAT(LinesOf("LogDeviceDelTempBL"),
                 ElementsAre("entry: >> TempLogDevice = PGSP_TEMP_LOG_DEVICE____000", NoFolder,

@@ -12,7 +12,7 @@ namespace
 
 using testing::ElementsAre;
 
-const std::string Success = "exit: << return lRet = 0";
+const std::string Answer = "exit: << return lRet = 0";
 
 class TextLibraryTrace : public TextTraceScene
 {
@@ -57,7 +57,7 @@ TEST_F(TextLibraryTrace, OfTheCommonPathLooksForNoVariables)
 
     EXPECT_THAT(LinesOfLoad(),
                 ElementsAre(EntryOf(deviceFile()), Info("Using ExpandEnvironmentStrings = ", Library(bin())),
-                            Success));
+                            Answer));
 }
 
 TEST_F(TextLibraryTrace, OfVariablesTellsThemAndWhereTheyLead)
@@ -73,7 +73,7 @@ TEST_F(TextLibraryTrace, OfVariablesTellsThemAndWhereTheyLead)
     EXPECT_THAT(LinesOfLoad(),
                 ElementsAre(EntryOf(deviceFile()),
                             Info("Search for ExpandEnvironmentStrings = ", L"%NORV_TEST_TEXTS%"),
-                            Info("Using ExpandEnvironmentStrings = ", Library(elsewhere)), Success));
+                            Info("Using ExpandEnvironmentStrings = ", Library(elsewhere)), Answer));
 }
 
 TEST_F(TextLibraryTrace, OfVariablesThatLeadToNothingTellsAPathWithoutARoot)
@@ -103,7 +103,7 @@ TEST_F(TextLibraryTrace, OfVariablesThatLeadTooFarTellsTheUsualPlace)
     EXPECT_THAT(LinesOfLoad(),
                 ElementsAre(EntryOf(deviceFile()),
                             Info("Search for ExpandEnvironmentStrings = ", L"%NORV_TEST_TEXTS%"),
-                            Info("Using std-path = ", Library(bin())), Success));
+                            Info("Using std-path = ", Library(bin())), Answer));
 }
 
 TEST_F(TextLibraryTrace, OfAPathWithoutVariablesTellsIt)
@@ -116,7 +116,7 @@ TEST_F(TextLibraryTrace, OfAPathWithoutVariablesTellsIt)
     EXPECT_EQ(Ask(), PGSP_OK);
 
     EXPECT_THAT(LinesOfLoad(), ElementsAre(EntryOf(deviceFile()),
-                                           Info("Using AssemblyPath = ", Library(elsewhere)), Success));
+                                           Info("Using AssemblyPath = ", Library(elsewhere)), Answer));
 }
 
 TEST_F(TextLibraryTrace, OfAMissingLanguageTellsTheFirstLibraryAlone)
@@ -129,7 +129,7 @@ TEST_F(TextLibraryTrace, OfAMissingLanguageTellsTheFirstLibraryAlone)
     EXPECT_STREQ(buffer, L"def");
     EXPECT_THAT(LinesOfLoad(),
                 ElementsAre(EntryOf(deviceFile()), Info("Using ExpandEnvironmentStrings = ", french),
-                            CanNotLoad("exit", french), Success));
+                            CanNotLoad("exit", french), Answer));
 }
 
 TEST_F(TextLibraryTrace, OfNoLibraryTellsBoth)
