@@ -47,8 +47,8 @@ struct SectionValues
     std::vector<NameAndValue> values;
 };
 
-// What an enumeration has told, each value once, in the file's order: the attributes of the root, and then the
-// sections. One group without a name when the outline isn't that of the file that was enumerated.
+// What an enumeration has told, each value once, in the file's order: the attributes of the root, and then
+// the sections. One group without a name when the outline isn't that of the file that was enumerated.
 [[nodiscard]] std::vector<SectionValues> Grouped(const std::vector<NameAndValue>& enumerated,
                                                  const std::optional<FileOutline>& outline);
 
