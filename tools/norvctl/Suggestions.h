@@ -11,9 +11,9 @@
 namespace norvctl
 {
 
-// "; did you mean baudrate?" for a verb that has failed because something isn't there; empty when nothing that
-// is there has a name as near, or when it failed for another reason. What there is, is read only now. The verb
-// stands in the words behind "norvctl".
+// "; did you mean baudrate?" for a verb that has failed because something isn't there; empty when nothing
+// that is there has a name as near, or when it failed for another reason. What there is, is read only now.
+// The verb stands in the words behind "norvctl".
 [[nodiscard]] std::string SuggestionFor(const CLI::App& root, const std::vector<std::string>& words,
                                         const Failure& failure);
 
