@@ -1,7 +1,7 @@
 #pragma once
 
-// What norvctl's streams lead to: a console, which takes UTF-16 and has a width, or a file or pipe, which gets
-// UTF-8 as it stands.
+// What norvctl's streams lead to: a console, which takes UTF-16 and has a width, or a file or pipe, which
+// gets UTF-8 as it stands.
 
 #include <cstddef>
 #include <memory>
@@ -10,8 +10,8 @@
 namespace norvctl
 {
 
-// For as long as it lives, std::cout and std::cerr write whole characters to the console, if that is where they
-// lead, whatever its code page is. One for a process, ahead of all output.
+// For as long as it lives, std::cout and std::cerr write whole characters to the console, if that is where
+// they lead, whatever its code page is. One for a process, ahead of all output.
 class ConsoleStreams
 {
 public:

@@ -15,9 +15,9 @@ namespace
 
 constexpr std::size_t FirstCapacity = 1024; // characters; lists need 260 at least
 
-// Calls with a buffer that grows for as long as the answer doesn't fit; its final size is the answer's. A length that
-// comes back as it went in means a text that needs room for one more; twice in a row it means a name that makes too
-// long a path, of which the library says the same and no more.
+// Calls with a buffer that grows for as long as the answer doesn't fit; its final size is the answer's. A
+// length that comes back as it went in means a text that needs room for one more; twice in a row it means a
+// name that makes too long a path, of which the library says the same and no more.
 int32_t CallWithRoom(const std::function<int32_t(wchar_t*, uint32_t*)>& call, std::vector<wchar_t>& buffer,
                      std::size_t room)
 {

@@ -8,8 +8,8 @@
 namespace norvctl
 {
 
-// Makes the file, or replaces the one that is there. Whoever opens it meanwhile sees the old one, and so it stays
-// when something fails, which is thrown.
+// Makes the file, or replaces the one that is there. Whoever opens it meanwhile sees the old one, and so it
+// stays when something fails, which is thrown.
 void SaveWholeFile(const std::wstring& path, std::string_view bytes);
 
 } // namespace norvctl

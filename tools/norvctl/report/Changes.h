@@ -42,9 +42,9 @@ using MarkedObjects = std::vector<MarkedObject>;
 // A store that is compared with none: nothing is marked.
 [[nodiscard]] MarkedObjects Unmarked(Objects objects);
 
-// Removed objects stand behind those of their kind, removed values at the end of their section. Kinds that the
-// older store doesn't have aren't compared. A parameter that stands in a section several times is compared with
-// itself in the order of the file.
+// Removed objects stand behind those of their kind, removed values at the end of their section. Kinds that
+// the older store doesn't have aren't compared. A parameter that stands in a section several times is
+// compared with itself in the order of the file.
 [[nodiscard]] MarkedObjects MarkChanges(const Objects& before, Objects objects);
 
 } // namespace norvctl::report
