@@ -134,7 +134,7 @@ TEST_P(NorvctlDoctorMisuse, EndsWithTwo)
 
     EXPECT_EQ(end.exitCode, 2U);
     EXPECT_EQ(end.output, "");
-    EXPECT_THAT(end.error, HasSubstr("Run with --help"));
+    EXPECT_THAT(end.error, HasSubstr("Run norvctl doctor --help"));
 }
 
 INSTANTIATE_TEST_SUITE_P(CommandLines, NorvctlDoctorMisuse,

@@ -17,17 +17,18 @@ std::string Code(std::string_view text)
     return fmt::format("`{}`", text);
 }
 
-// What would be markup in a line of text.
+// What would be markup in a line of text, and two hyphens, which would become a dash.
 std::string Escaped(std::string_view text)
 {
     std::string escaped;
-    for (const char c : text)
+    for (std::size_t i = 0; i < text.size(); ++i)
     {
-        if (std::string_view("\\<>*_|`[]").find(c) != std::string_view::npos)
+        const bool isDash = text.substr(i).starts_with("--") && !escaped.ends_with('-');
+        if (isDash || std::string_view("\\<>*_|`[]").find(text[i]) != std::string_view::npos)
         {
             escaped += '\\';
         }
-        escaped += c;
+        escaped += text[i];
     }
     return escaped;
 }
