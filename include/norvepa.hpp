@@ -1358,8 +1358,12 @@ public:
             Release();
             return {};
         }
-        const bool isWholeAsBefore = result == PGSP_ERR_FILE_NOT_FOUND || isTargetThere();
-        m_isOwned = isWholeAsBefore;
+        if (result ==
+            PGSP_ERR_CANT_DELETE_FILE) // all is done; the copy, which somebody holds, goes with the object
+        {
+            return {};
+        }
+        m_isOwned = result != PGSP_ERR_CANT_COPY_FILE;
         return Error("LogDeviceUpdateWithTempBL", result);
     }
 
@@ -1393,12 +1397,6 @@ private:
             return name.error();
         }
         return EditCopy(LogDevice(std::move(name).value()), std::move(target));
-    }
-
-    [[nodiscard]] bool isTargetThere() const noexcept
-    {
-        return LogDeviceExistBL(m_target.name().c_str(), static_cast<std::int32_t>(Access::Existence)) ==
-               PGSP_OK;
     }
 
     void Release() noexcept

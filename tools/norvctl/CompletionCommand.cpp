@@ -1,6 +1,7 @@
 #include "Commands.h"
 #include "Completion.h"
 #include "CompletionScripts.h"
+#include "DisplayText.h"
 #include "Example.h"
 #include "ExitStatus.h"
 #include "RawOutput.h"
@@ -53,8 +54,10 @@ Answer AnswerTo(const CLI::App& root, const ShellLine& line)
         return ValuesFromStore(word, commandLine);
     };
     answer.candidates = CandidatesFor(root, line.words, line.present, values);
-    std::erase_if(answer.candidates,
-                  [&](const Candidate& each) { return !each.word.starts_with(line.kept); });
+    // A value with a line feed would be taken for two candidates.
+    std::erase_if(answer.candidates, [&](const Candidate& each) {
+        return !each.word.starts_with(line.kept) || OnOneLine(each.word) != each.word;
+    });
     return answer;
 }
 
@@ -75,7 +78,7 @@ std::string PowerShellLines(const std::vector<Candidate>& candidates)
     for (const Candidate& each : candidates)
     {
         lines += fmt::format("{}\t{}\t{}\n", PowerShellWord(each.word), each.word,
-                             each.help.empty() ? each.word : each.help);
+                             each.help.empty() ? each.word : OnOneLine(each.help));
     }
     return lines;
 }

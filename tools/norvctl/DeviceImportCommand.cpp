@@ -1,6 +1,7 @@
 #include "Commands.h"
 #include "Device.h"
 #include "DeviceImport.h"
+#include "DisplayText.h"
 #include "Example.h"
 #include "FittingTemplate.h"
 #include "Interruption.h"
@@ -110,7 +111,7 @@ Json AsArray(const std::vector<ImportRefusal>& refused)
 {
     for (const ImportRefusal& refusal : refused)
     {
-        std::cerr << "norvctl: " << WordsFor(arguments, refusal) << '\n';
+        std::cerr << "norvctl: " << OnOneLine(WordsFor(arguments, refusal)) << '\n';
     }
     std::cerr << fmt::format("norvctl: nothing has been imported: {} of the document's values can't be had\n",
                              refused.size());
@@ -175,6 +176,10 @@ void Import(const Report& report, const Arguments& arguments)
     }
     const Interruption interruption;
     const std::optional<std::string> before = BytesOf(PathOfDevice(arguments.device));
+    if (isThere && !before)
+    {
+        throw std::runtime_error(arguments.device + ": its file cannot be read just now");
+    }
     TemporaryDevice temporary = Begin(arguments, wanted, isThere);
     const std::vector<Difference> changes = ImportChanges(temporary.name(), wanted);
     if (isThere && changes.empty())

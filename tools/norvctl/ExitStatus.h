@@ -20,8 +20,9 @@ struct ExitStatus
 // In words, for help and reference.
 inline constexpr std::array<ExitStatus, 3> ExitStatuses{{
     {Done, "done; doctor: nothing is wrong"},
-    {Refused, "refused, failed or not found; doctor: something is wrong"},
-    {Misused, "the command line is none that norvctl knows"},
+    {Refused,
+     "refused, failed or not found; doctor: something is wrong; device diff --exit-code: they differ"},
+    {Misused, "the command line is none that norvctl knows; device diff --exit-code: they can't be compared"},
 }};
 
 } // namespace norvctl

@@ -117,6 +117,7 @@ std::vector<NameAndValue> EnumeratePairs(const std::string& subject, const ReadP
         }
         Require(result, subject);
         pairs.push_back({ToUtf8({name.data(), nameLength}), ToUtf8({value.data(), valueLength})});
+        wasUnchanged = false;
         ++index;
     }
 }

@@ -16,15 +16,13 @@ struct NamedText
 
 inline constexpr std::array<std::string_view, 4> AboutNorvctl{
     "norvctl reads and changes the configuration of this machine's communication stack, through the same "
-    "library "
-    "as every other client of it. What it changes is announced to all that watch.",
+    "library as every other client of it. norvctl watch follows what changes.",
     "A command line names a noun and a verb, arguments by their position, and options, which may stand "
-    "anywhere. "
-    "Behind -- nothing is an option: a value that begins with a hyphen and is no number goes there. Commands "
-    "and options are "
-    "case-sensitive; the names of the store aren't.",
+    "anywhere. Behind -- nothing is an option: a value that begins with a hyphen and is no number goes "
+    "there. Commands and options are case-sensitive; the names of the store aren't.",
     "An answer goes to standard output, as UTF-8, or to a console as it shows it. With --json it is one JSON "
-    "document. Why something wasn't done stands on standard error, with the library's code and its name.",
+    "document, of watch one a line. Why something wasn't done stands on standard error, with the library's "
+    "code and its name.",
     "norvctl completion prints what makes bash or PowerShell complete commands, options and the names of the "
     "store.",
 };

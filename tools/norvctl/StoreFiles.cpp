@@ -26,10 +26,12 @@ struct CloseSearch
     void operator()(void* search) const { FindClose(search); }
 };
 
-// A file that is to go is told by some systems as one in use, by others as one that can't be had.
+// A file that is to go is told by some systems as one in use, by others as one that can't be had; its folder
+// isn't empty until it has gone.
 bool MayPass(DWORD error)
 {
-    return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION || error == ERROR_ACCESS_DENIED;
+    return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION ||
+           error == ERROR_ACCESS_DENIED || error == ERROR_DIR_NOT_EMPTY;
 }
 
 bool IsGone(DWORD error)

@@ -65,21 +65,6 @@ Steps StepsFor(const StoreDifference& difference)
     return steps;
 }
 
-BOOL WINAPI StayUntilDone(DWORD /*event*/)
-{
-    return TRUE;
-}
-
-// Ctrl+C and the like don't end the process for as long as it lives.
-class Uninterrupted
-{
-public:
-    Uninterrupted() { SetConsoleCtrlHandler(StayUntilDone, TRUE); }
-    Uninterrupted(const Uninterrupted&) = delete;
-    Uninterrupted& operator=(const Uninterrupted&) = delete;
-    ~Uninterrupted() { SetConsoleCtrlHandler(StayUntilDone, FALSE); }
-};
-
 // The first `count` steps, the last one first. Goes on where one can't be undone; the names of those.
 std::vector<std::string> Undo(const std::wstring& root, const Steps& steps, std::size_t count,
                               const StoreSnapshot& was)
@@ -106,7 +91,6 @@ void ReplaceStore(const std::wstring& root, const StoreSnapshot& now, const Stor
 {
     const std::wstring path = AnyLengthPath(root);
     const Steps steps = StepsFor(difference);
-    const Uninterrupted uninterrupted;
     Progress progress("restore", steps.size());
     std::size_t done = 0;
     try

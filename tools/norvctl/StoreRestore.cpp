@@ -1,5 +1,6 @@
 #include "BackupFile.h"
 #include "Device.h"
+#include "Interruption.h"
 #include "StoreCommands.h"
 #include "StoreFiles.h"
 #include "StoreReplacement.h"
@@ -85,7 +86,8 @@ public:
         }
     }
 
-    void Want() { m_isWanted = true; }
+    // Nobody needs it any more.
+    void Drop() { m_isWanted = false; }
     [[nodiscard]] std::string Name() const { return ToUtf8(m_file); }
 
 private:
@@ -103,12 +105,13 @@ private:
     }
 
     std::wstring m_file;
-    bool m_isWanted = false;
+    bool m_isWanted = true;
 };
 
 void Replace(const std::wstring& root, const StoreBackup& now, const StoreSnapshot& then,
              const StoreDifference& difference)
 {
+    const Interruption interruption; // also between the rescue's making and the first step
     std::filesystem::create_directories(root);
     Rescue rescue(root, now);
     try
@@ -117,9 +120,24 @@ void Replace(const std::wstring& root, const StoreBackup& now, const StoreSnapsh
     }
     catch (const BrokenReplacement& error)
     {
-        rescue.Want();
         throw std::runtime_error(
             fmt::format("{}; the store as it was is in {}", error.what(), rescue.Name()));
+    }
+    catch (const std::runtime_error&)
+    {
+        rescue.Drop(); // all is as it was
+        throw;
+    }
+    rescue.Drop();
+}
+
+// The answer may take its time, and what others save meanwhile must not be lost.
+void RequireTheSame(const std::wstring& root, const StoreBackup& now)
+{
+    const StoreBackup present = BackupOf(root);
+    if (present.store.folders != now.store.folders || present.store.files != now.store.files)
+    {
+        throw std::runtime_error("the store has changed meanwhile: nothing has been restored");
     }
 }
 
@@ -155,6 +173,7 @@ void RestoreStore(const Report& report, const RestoreArguments& arguments)
         if (!arguments.yes && HasLogDevices(now.store))
         {
             RequireConsent(root, difference);
+            RequireTheSame(root, now);
         }
         Replace(root, now, backup.store, difference);
     }

@@ -72,10 +72,8 @@ void TemporaryDevice::BecomeDevice(const std::string& device)
     }
     catch (...)
     {
-        if (!m_isKept)
-        {
-            LogDeviceDelBL(name.c_str(), 1);
-        }
+        const int32_t result = m_isKept ? PGSP_OK : LogDeviceDelBL(name.c_str(), 1);
+        Require(result, device, "an unfinished log device of this name stays: remove it");
         throw;
     }
 }

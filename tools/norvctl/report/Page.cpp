@@ -32,7 +32,7 @@ CountsByAnchor CountFindings(const Findings& findings, const Places& places)
     return counts;
 }
 
-// Nothing is loaded, from wherever, and no script runs but ours, should a text ever get past its escaping.
+// Nothing is loaded, from wherever. Texts are kept from becoming markup by their escaping alone.
 constexpr char Nonce[] = "norvctl";
 constexpr char Policy[] = "default-src 'none'; style-src 'nonce-norvctl'; script-src 'nonce-norvctl'; "
                           "base-uri 'none'; form-action 'none'";

@@ -214,12 +214,12 @@ private:
 
 std::vector<std::string> NamesOfDevices()
 {
-    return OrNothing([] { return AllOf("the log devices", &PGSP_GetLogDeviceListBL); });
+    return AllOf("the log devices", &PGSP_GetLogDeviceListBL);
 }
 
 std::vector<std::string> NamesOfNames()
 {
-    return OrNothing([] { return AllOf("the log names", &PGSP_GetLogNameListBL); });
+    return AllOf("the log names", &PGSP_GetLogNameListBL);
 }
 
 // The visible ones; the list of all has the hidden ones, too.
