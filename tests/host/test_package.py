@@ -42,7 +42,7 @@ examples/README.md examples/CMakeLists.txt
 examples/store/program-root/bin/de/AuentalTexte.dll examples/store/program-root/bin/en/AuentalTexte.dll
 share/NorvepaBl64x/Schemes/Corvane.Device.Driver.Logdevice.xsd
 share/completions/norvctl.bash share/completions/norvctl.ps1
-share/doc/NorvepaBl64x/README.md share/doc/NorvepaBl64x/CHANGELOG.md share/doc/NorvepaBl64x/CONTRIBUTING.md share/doc/NorvepaBl64x/LICENSE
+share/doc/NorvepaBl64x/README.md share/doc/NorvepaBl64x/CHANGELOG.md share/doc/NorvepaBl64x/CONTRIBUTING.md share/doc/NorvepaBl64x/LICENSE share/doc/NorvepaBl64x/NOTICES
 share/doc/NorvepaBl64x/html/index.html
 """.split()
 

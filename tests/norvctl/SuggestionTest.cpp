@@ -95,5 +95,26 @@ INSTANTIATE_TEST_SUITE_P(
                     Slip{"NameThatIsThere", {L"name", L"create", L"Lagerhaus"}, "8504"}),
     [](const auto& slip) { return slip.param.name; });
 
+class NorvctlNewParameter : public Norvctl
+{
+};
+
+TEST_F(NorvctlNewParameter, IsTakenAndToldOfWhenItIsNearlyAKnownOne)
+{
+    const ProgramEnd first = RunNorvctl({L"device", L"set", L"Kesselhaus", L"baudrat", L"500000"});
+    const ProgramEnd second = RunNorvctl({L"device", L"set", L"Kesselhaus", L"baudrat", L"9600"});
+
+    EXPECT_EQ(first.exitCode, 0U);
+    EXPECT_EQ(first.output, "set Kesselhaus, baudrat\n");
+    EXPECT_EQ(first.error, "norvctl: baudrat is new to Kesselhaus; did you mean baudrate?\n");
+    EXPECT_EQ(second.error, "");
+}
+
+TEST_F(NorvctlNewParameter, IsTakenWithoutAWordWhenNothingIsNearOrTheCatalogueKnowsIt)
+{
+    EXPECT_EQ(RunNorvctl({L"device", L"set", L"Kesselhaus", L"Wartungsplan", L"A"}).error, "");
+    EXPECT_EQ(RunNorvctl({L"device", L"set", L"Abf\u00FCllung Linie 2", L"highest_adr", L"31"}).error, "");
+}
+
 } // namespace
 } // namespace norvepa::test

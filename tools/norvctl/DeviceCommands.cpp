@@ -5,8 +5,11 @@
 #include "Refusal.h"
 #include "Result.h"
 #include "SheetAnswer.h"
+#include "Suggestions.h"
 #include "Text.h"
 #include "norvepa.h"
+
+#include <iostream>
 
 #include <fmt/format.h>
 #include <memory>
@@ -132,12 +135,28 @@ void SetOrExplain(const Arguments& arguments)
     Require(result, SubjectOf(arguments), AllowedValues(device, parameter, result));
 }
 
+// The library takes a parameter that nobody knew, and keeps it.
+void TellOfSlip(const Arguments& arguments)
+{
+    const std::string suggestion = SuggestionForNew(arguments.device, arguments.parameter);
+    if (!suggestion.empty())
+    {
+        std::cerr << fmt::format("norvctl: {} is new to {}{}\n", arguments.parameter, arguments.device,
+                                 suggestion);
+    }
+}
+
 void Set(const Report& report, const Arguments& arguments)
 {
+    const bool wasThere = ReadDevice(arguments.device, arguments.parameter).result == PGSP_OK;
     const bool changed = MakesDifference(
         LogDevicesWord, FileOfDevice(arguments.device),
         [&] { return ReadDevice(arguments.device, arguments.parameter); }, [&] { SetOrExplain(arguments); });
     AnswerDone(report, changed ? "set" : "unchanged", arguments.device, arguments.parameter);
+    if (!wasThere)
+    {
+        TellOfSlip(arguments);
+    }
 }
 
 void Unset(const Report& report, const Arguments& arguments)

@@ -142,6 +142,11 @@ std::optional<std::string> NearestOfLine(const CommandLine& line)
     return std::nullopt;
 }
 
+std::string AsQuestion(const std::optional<std::string>& nearest)
+{
+    return nearest ? "; did you mean " + *nearest + '?' : "";
+}
+
 } // namespace
 
 std::string SuggestionFor(const CLI::App& root, const std::vector<std::string>& words, const Failure& failure)
@@ -152,10 +157,34 @@ std::string SuggestionFor(const CLI::App& root, const std::vector<std::string>& 
     }
     try
     {
-        const auto nearest = NearestOfLine(Follow(root, words));
-        return nearest ? "; did you mean " + *nearest + '?' : "";
+        return AsQuestion(NearestOfLine(Follow(root, words)));
     }
     catch (const Failure&) // of what there is nothing can be read either
+    {
+        return "";
+    }
+}
+
+std::string SuggestionForNew(const std::string& device, const std::string& parameter)
+{
+    try
+    {
+        Texts known;
+        AddParametersOfCatalogue(device, known);
+        if (IsAmong(known, parameter))
+        {
+            return "";
+        }
+        for (const NameAndValue& value : ValuesOfDevice(device))
+        {
+            if (value.name != parameter)
+            {
+                known.push_back(value.name);
+            }
+        }
+        return AsQuestion(NearestTo(parameter, known));
+    }
+    catch (const Failure&) // it has been set all the same
     {
         return "";
     }

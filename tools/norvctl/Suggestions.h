@@ -17,4 +17,8 @@ namespace norvctl
 [[nodiscard]] std::string SuggestionFor(const CLI::App& root, const std::vector<std::string>& words,
                                         const Failure& failure);
 
+// The same for a parameter of a log device that has just been set: one that neither its file nor the
+// catalogue knew is taken, and may be a slip.
+[[nodiscard]] std::string SuggestionForNew(const std::string& device, const std::string& parameter);
+
 } // namespace norvctl
