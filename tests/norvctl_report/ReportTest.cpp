@@ -127,6 +127,13 @@ TEST_F(NorvctlReport, InAFolderThatIsNotThereIsRefused)
     EXPECT_THAT(end.error, HasSubstr("store.html"));
 }
 
+TEST_F(NorvctlReport, TellsOfAStoreWhoseDataIsGone)
+{
+    locations.Set(L"Corvane_Oam_Data", folder / L"gone");
+
+    EXPECT_THAT(Written(), AllOf(HasSubstr("id=\"board-AFK110\""), HasSubstr("tag error")));
+}
+
 TEST_F(NorvctlReport, AsJsonTellsWhatItHasWritten)
 {
     const json answer = json::parse(OutputOfNorvctl({L"--json", L"report", Page()}));

@@ -251,8 +251,8 @@ Objects ReadStore(Progress& progress)
     CatalogueLimits limits;
     const std::set<std::string> visible = VisibleDevices();
     Reader reader(progress);
-    reader.Read(NamesOfNames(), &ReadName);
-    reader.Read(NamesOfDevices(), [&](const std::string& name) {
+    reader.Read(OrNothing(&NamesOfNames), &ReadName); // findings tell what is missing as a whole
+    reader.Read(OrNothing(&NamesOfDevices), [&](const std::string& name) {
         Object device = ReadDeviceHead(name);
         device.isHidden = visible.count(name) == 0;
         OrNothing([&] {
